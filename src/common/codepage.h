@@ -1,0 +1,23 @@
+// The 8-bit code page of the program's files: the system's ANSI code page, Windows-1252 where the
+// platform has none.
+#pragma once
+
+#include "common/text.h"
+
+#include <string>
+#include <string_view>
+
+namespace termvik {
+
+// Appends `bytes` to `out` as characters. Every byte gives a character: the five bytes that
+// Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so on.
+void decodeAnsi(std::string_view bytes, Text& out);
+
+// `text` as bytes of the code page. A character (one UTF-16 element) that the code page lacks
+// becomes '?'.
+std::string encodeAnsi(TextView text);
+
+// All characters that a file can hold: the images of the bytes 00 to FF, in that order.
+Text ansiCharacters();
+
+}  // namespace termvik

@@ -1,0 +1,54 @@
+// The platform's comparison of texts: the judge of every order and every equality of words.
+//
+// Letters and accents count, case does not. `ß` equals `ss`, `æ` equals `ae`, `œ` equals `oe`
+// whatever the locale, so that all platforms agree.
+#pragma once
+
+#include "common/text.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace termvik {
+
+// One step of a text's collation: what the judge compares in place of characters. A step can lack
+// the primary weight (an accent that stands by itself) but never both.
+struct CollationElement {
+  std::uint32_t primary = 0;    // the letter; 0 for none
+  std::uint32_t secondary = 0;  // the accent or kind of the letter
+  std::int32_t end = 0;         // characters of the text used up behind this element
+};
+
+class Collator {
+ public:
+  // `localeName` as the platform writes it ("sv_SE"); "C", "POSIX" and "" stand for Swedish, and so
+  // does a name that the platform does not know how to collate.
+  explicit Collator(const std::string& localeName);
+  ~Collator();
+  Collator(const Collator&) = delete;
+  Collator& operator=(const Collator&) = delete;
+
+  // Negative, 0 or positive as `a` sorts before, equal to or after `b`. Allocates nothing.
+  int compare(TextView a, TextView b) const;
+
+  // The elements of `text` in their order, the ones that do not count left out.
+  std::vector<CollationElement> elements(TextView text) const;
+
+  // True when the order of two texts follows from their elements alone: all primary weights from
+  // the front, then all secondary weights from the front.
+  bool comparesByElements() const;
+
+  // The characters that can change their elements because of a character before them.
+  Text contextCharacters() const;
+
+ private:
+  struct Platform;
+  std::unique_ptr<Platform> platform_;
+};
+
+// The name of the user's locale for collation, "" when the user has none.
+std::string userLocaleName();
+
+}  // namespace termvik

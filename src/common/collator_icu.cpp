@@ -1,0 +1,148 @@
+// The judge where ICU is the platform's collation.
+#include "common/collator.h"
+
+#include <unicode/ucol.h>
+#include <unicode/ucoleitr.h>
+#include <unicode/uloc.h>
+#include <unicode/uset.h>
+
+#include <array>
+#include <cstdlib>
+#include <string_view>
+
+namespace termvik {
+
+namespace {
+
+constexpr const char* kDefaultLocale = "sv";
+
+// What makes ICU agree with the other platforms on every letter.
+constexpr TextView kLigatureRules = u"&ss<<<ß<<<ẞ&ae<<<æ<<<Æ&oe<<<œ<<<Œ";
+constexpr TextView kSwedishRules = u"&o<<ô<<<Ô";  // the locale's own rules file ô under ö
+
+std::string languageOf(const std::string& locale) {
+  std::array<char, ULOC_LANG_CAPACITY> language{};
+  UErrorCode error = U_ZERO_ERROR;
+  uloc_getLanguage(locale.c_str(), language.data(), ULOC_LANG_CAPACITY, &error);
+  return U_SUCCESS(error) ? language.data() : "";
+}
+
+bool isNoLocale(std::string_view name) {
+  return name.empty() || name == "C" || name.starts_with("C.") || name == "POSIX";
+}
+
+// ICU's own name for a locale as the environment writes it ("sv_SE.UTF-8").
+std::string canonicalName(const std::string& name) {
+  std::array<char, ULOC_FULLNAME_CAPACITY> canonical{};
+  UErrorCode error = U_ZERO_ERROR;
+  uloc_canonicalize(name.c_str(), canonical.data(), ULOC_FULLNAME_CAPACITY, &error);
+  return U_SUCCESS(error) ? canonical.data() : "";
+}
+
+UCollator* openCollator(const std::string& name) {
+  UErrorCode error = U_ZERO_ERROR;
+  const std::string locale = canonicalName(name);
+  UCollator* plain = ucol_open(locale.c_str(), &error);
+  if (U_FAILURE(error)) return nullptr;
+  std::int32_t length = 0;
+  const UChar* localeRules = ucol_getRules(plain, &length);
+  Text rules(localeRules, static_cast<std::size_t>(length));
+  ucol_close(plain);
+  rules += kLigatureRules;
+  if (languageOf(locale) == "sv") rules += kSwedishRules;
+  UCollator* tailored = ucol_openRules(rules.data(), static_cast<std::int32_t>(rules.size()),
+                                       UCOL_DEFAULT, UCOL_SECONDARY, nullptr, &error);
+  return U_SUCCESS(error) ? tailored : nullptr;
+}
+
+std::int32_t size32(TextView text) {
+  return static_cast<std::int32_t>(text.size());
+}
+
+}  // namespace
+
+struct Collator::Platform {
+  UCollator* collator = nullptr;
+
+  UColAttributeValue attribute(UColAttribute which) const {
+    UErrorCode error = U_ZERO_ERROR;
+    return ucol_getAttribute(collator, which, &error);
+  }
+};
+
+Collator::Collator(const std::string& localeName) : platform_(std::make_unique<Platform>()) {
+  if (!isNoLocale(localeName)) platform_->collator = openCollator(localeName);
+  if (platform_->collator == nullptr) platform_->collator = openCollator(kDefaultLocale);
+  if (platform_->collator == nullptr) std::abort();  // ICU without its data: nothing can be sorted
+}
+
+Collator::~Collator() {
+  ucol_close(platform_->collator);
+}
+
+int Collator::compare(TextView a, TextView b) const {
+  return ucol_strcoll(platform_->collator, a.data(), size32(a), b.data(), size32(b));
+}
+
+std::vector<CollationElement> Collator::elements(TextView text) const {
+  std::vector<CollationElement> result;
+  UErrorCode error = U_ZERO_ERROR;
+  UCollationElements* walk =
+      ucol_openElements(platform_->collator, text.data(), size32(text), &error);
+  if (U_FAILURE(error)) return result;
+  for (std::int32_t order = ucol_next(walk, &error); order != UCOL_NULLORDER;
+       order = ucol_next(walk, &error)) {
+    // ICU hands out a long element in two halves; the lower half carries 0xC0 in its tertiary.
+    constexpr std::int32_t kLowerHalf = 0xC0;
+    const auto primary = static_cast<std::uint32_t>(ucol_primaryOrder(order));
+    const auto secondary = static_cast<std::uint32_t>(ucol_secondaryOrder(order));
+    const std::int32_t end = ucol_getOffset(walk);
+    if ((ucol_tertiaryOrder(order) & kLowerHalf) == kLowerHalf && !result.empty()) {
+      result.back().primary |= primary;
+      result.back().secondary |= secondary;
+      result.back().end = end;
+    } else if (primary != 0 || secondary != 0) {
+      result.push_back({primary << 16U, secondary << 8U, end});
+    }
+  }
+  ucol_closeElements(walk);
+  return result;
+}
+
+bool Collator::comparesByElements() const {
+  UErrorCode error = U_ZERO_ERROR;
+  const bool reordersScripts = ucol_getReorderCodes(platform_->collator, nullptr, 0, &error) != 0;
+  return !reordersScripts && platform_->attribute(UCOL_FRENCH_COLLATION) == UCOL_OFF &&
+         platform_->attribute(UCOL_ALTERNATE_HANDLING) == UCOL_NON_IGNORABLE &&
+         platform_->attribute(UCOL_CASE_LEVEL) == UCOL_OFF &&
+         platform_->attribute(UCOL_NUMERIC_COLLATION) == UCOL_OFF;
+}
+
+Text Collator::contextCharacters() const {
+  Text result;
+  UErrorCode error = U_ZERO_ERROR;
+  USet* contractions = uset_openEmpty();
+  ucol_getContractionsAndExpansions(platform_->collator, contractions, nullptr, true, &error);
+  for (std::int32_t i = 0; i < uset_getItemCount(contractions); ++i) {
+    UChar32 start = 0;
+    UChar32 end = 0;
+    std::array<UChar, 64> sequence{};
+    UErrorCode itemError = U_ZERO_ERROR;
+    const std::int32_t length =
+        uset_getItem(contractions, i, &start, &end, sequence.data(), sequence.size(), &itemError);
+    if (length < 2 || U_FAILURE(itemError)) continue;  // a plain range of characters
+    result.append(sequence.data() + 1, static_cast<std::size_t>(length) - 1);
+  }
+  uset_close(contractions);
+  return result;
+}
+
+std::string userLocaleName() {
+  for (const char* variable : {"LC_ALL", "LC_COLLATE", "LANG"}) {
+    const char* value = std::getenv(variable);
+    if (value != nullptr && *value != '\0') return value;
+  }
+  return {};
+}
+
+}  // namespace termvik

@@ -1,0 +1,61 @@
+#include "common/files.h"
+
+#include <algorithm>
+
+namespace termvik {
+
+bool fileExists(const std::filesystem::path& fileName) {
+  std::error_code error;
+  return !fileName.empty() && std::filesystem::is_regular_file(fileName, error);
+}
+
+std::filesystem::path fileIn(const std::filesystem::path& folder, TextView fileName) {
+  std::filesystem::path path = folder;
+  path += std::filesystem::path::preferred_separator;
+  path += std::filesystem::path(fileName);
+  return path;
+}
+
+LineReader::LineReader(const std::filesystem::path& fileName)
+    : file_(openToRead(fileName)), buffer_(kBufferSize, '\0'), failed_(file_ == nullptr) {}
+
+bool LineReader::next(std::string_view& line) {
+  std::size_t searched = position_;
+  for (;;) {
+    const std::size_t end =
+        std::string_view(buffer_.data(), filled_).find('\r', std::min(searched, filled_));
+    // What stands behind a CR decides where the next line begins, so it must have been read.
+    if (end != std::string_view::npos && end + 1 < filled_) {
+      line = std::string_view(buffer_).substr(position_, end - position_);
+      position_ = end + (buffer_[end + 1] == '\n' ? 2 : 1);
+      return true;
+    }
+    searched = (end == std::string_view::npos ? filled_ : end) - position_;
+    if (refill()) {
+      searched += position_;
+      continue;
+    }
+    if (failed_ || position_ == filled_) return false;
+    const std::size_t stop = end == std::string_view::npos ? filled_ : end;
+    line = std::string_view(buffer_).substr(position_, stop - position_);
+    position_ = filled_;
+    return true;
+  }
+}
+
+// Moves the unfinished line to the front of the buffer and reads on behind it.
+bool LineReader::refill() {
+  if (failed_) return false;
+  std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(position_),
+            buffer_.begin() + static_cast<std::ptrdiff_t>(filled_), buffer_.begin());
+  filled_ -= position_;
+  position_ = 0;
+  if (filled_ == buffer_.size()) buffer_.resize(2 * buffer_.size());
+  const std::size_t read =
+      std::fread(buffer_.data() + filled_, 1, buffer_.size() - filled_, file_.get());
+  filled_ += read;
+  failed_ = std::ferror(file_.get()) != 0;
+  return read > 0;
+}
+
+}  // namespace termvik

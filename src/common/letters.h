@@ -1,0 +1,74 @@
+// The letters that the program's texts are made of: for every character that a file can hold, what
+// the collator makes of it, computed once, so that long walks over texts are walks over bytes.
+//
+// A letter is what two characters have in common when they are equal for the collator: `a` and `A`
+// are one letter, `å` is another, `æ` is the letters `a` `e`, a soft hyphen is no letter at all.
+// Two texts of known characters are equal exactly when their letters are the same, and their order
+// is that of the letters' ranks, then of the letters themselves.
+#pragma once
+
+#include "common/collator.h"
+#include "common/text.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace termvik {
+
+using Letter = std::uint8_t;
+
+inline constexpr Letter kNoLetter = 0;  // ends or separates letters; never a letter itself
+
+// The letters of one character.
+struct CharacterLetters {
+  static constexpr std::size_t kMost = 3;
+  static constexpr std::uint8_t kUnknown = 0xFF;
+
+  std::uint8_t count = kUnknown;
+  std::array<Letter, kMost> letters{};
+
+  bool known() const { return count != kUnknown; }
+};
+
+class Letters {
+ public:
+  // A character is known when it is in `characters` and the collator treats it alike wherever it
+  // stands. Where the collator's order does not follow from letters, none is known.
+  Letters(const Collator& collator, TextView characters);
+
+  const CharacterLetters& of(char16_t character) const { return table_[character]; }
+
+  // Appends the letters of `text` to `out`. False, with `out` as it was, when a character of the
+  // text is not known.
+  bool append(TextView text, std::vector<Letter>& out) const;
+
+  // The place of a letter in the order, accents left out: 1 to 255.
+  std::uint8_t rank(Letter letter) const { return ranks_[letter]; }
+
+  // True for the first of all letters of its rank, the one without an accent.
+  bool isPlain(Letter letter) const { return rank(letter) != rank(letter - 1); }
+
+  // The letter that consists of these elements of a text, kNoLetter when no known character does.
+  // `next` comes in as the index of the first element and goes to the one behind the letter.
+  Letter letterAt(const std::vector<CollationElement>& elements, std::size_t& next) const;
+
+ private:
+  // A letter's collation: its primary weight and all its secondary weights.
+  struct Weights {
+    std::uint32_t primary = 0;
+    std::vector<std::uint32_t> secondaries;
+    auto operator<=>(const Weights&) const = default;
+  };
+
+  static Weights weightsAt(const std::vector<CollationElement>& elements, std::size_t& next);
+  static bool ranksLetterByLetter(const std::vector<Weights>& sorted);
+  void rankLetters();
+
+  std::vector<Weights> weights_;  // of letter i + 1, rising
+  std::array<std::uint8_t, 256> ranks_{};
+  std::vector<CharacterLetters> table_;  // by character
+};
+
+}  // namespace termvik

@@ -1,0 +1,51 @@
+// A term of full search, made ready once to be looked for in many texts.
+//
+// A term occurs in a text when some stretch of the text's characters equals it: `strasse` occurs in
+// `Hauptstraße`, and half of an `ß` is never a hit.
+#pragma once
+
+#include "common/collation.h"
+#include "common/text.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace termvik {
+
+using LettersView = std::basic_string_view<Letter>;
+
+// How often each letter stands in the texts to be searched; a hint for speed only.
+using LetterCounts = std::array<std::uint32_t, 256>;
+
+class SearchTerm {
+ public:
+  static constexpr std::size_t kNotFound = LettersView::npos;
+
+  SearchTerm(const Collation& collation, TextView term, const LetterCounts& counts = {});
+
+  bool occursIn(TextView text) const;
+
+  // The same for a text of known characters, whose letters stand ready.
+  bool occursIn(TextView text, LettersView letters) const;
+
+  // The first place at or behind `from` where the term's letters stand, kNotFound when there is
+  // none. A place can still lie inside a character: occursIn decides.
+  std::size_t find(LettersView letters, std::size_t from) const;
+
+ private:
+  bool occursByCollator(TextView text) const;
+  bool equalsStretchNear(TextView text, std::size_t start, std::size_t end) const;
+  void spell();
+
+  const Collation* collation_;
+  Text term_;
+  std::vector<CollationElement> elements_;
+  std::optional<std::vector<Letter>> letters_;  // none when no text of known characters has them
+  std::size_t rarest_ = 0;                      // index of the term's rarest letter
+};
+
+}  // namespace termvik

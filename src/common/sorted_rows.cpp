@@ -1,0 +1,251 @@
+#include "common/sorted_rows.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+namespace termvik {
+
+template <class Char>
+const Char* TextArena<Char>::add(std::basic_string_view<Char> text) {
+  const std::size_t size = text.size() + 1;
+  if (size > free_) {
+    free_ = std::max(size, kChunk);
+    chunks_.push_back(std::make_unique_for_overwrite<Char[]>(free_));
+    next_ = chunks_.back().get();
+  }
+  Char* copy = next_;
+  *std::copy(text.begin(), text.end(), copy) = Char{};
+  next_ += size;
+  free_ -= size;
+  return copy;
+}
+
+SortedRows::SortedRows(const Collation& collation) : collation_(&collation) {}
+
+void SortedRows::clear() {
+  *this = SortedRows(*collation_);
+}
+
+std::int32_t SortedRows::add(TextView text) {
+  const Entry entry = makeEntry(text);
+  const Place place = insert(entry);
+  ++count_;
+  return rankOf(place);
+}
+
+SortedRows::Entry SortedRows::makeEntry(TextView text) {
+  Entry entry;
+  entry.id = static_cast<std::uint32_t>(rows_.size());
+  Row row;
+  row.text = texts_.add(text);
+  row.length = static_cast<std::int32_t>(text.size());
+  makeKey(text, row, entry);
+  rows_.push_back(row);
+  return entry;
+}
+
+void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
+  scratch_.clear();
+  const Letters& letters = collation_->letters();
+  if (!letters.append(text, scratch_)) return;  // without a key the collator compares the texts
+  scratchKey_.clear();
+  bool plain = true;
+  for (const Letter letter : scratch_) {
+    scratchKey_.push_back(letters.rank(letter));
+    plain = plain && letters.isPlain(letter);
+  }
+  const std::size_t head = std::min(kHead, scratchKey_.size());
+  std::copy_n(scratchKey_.begin(), head, entry.head.begin());
+  scratchKey_.push_back(0);
+  if (!plain) scratchKey_.insert(scratchKey_.end(), scratch_.begin(), scratch_.end());
+  row.key = keys_.add({scratchKey_.data(), scratchKey_.size()});
+  const bool dense =
+      std::all_of(text.begin(), text.end(), [&](char16_t c) { return letters.of(c).count > 0; });
+  if (dense) entry.id |= kDense;
+  if (dense && plain && scratch_.size() == text.size()) entry.id |= kPlain;
+}
+
+TextView SortedRows::textOf(const Entry& entry) const {
+  const Row& row = rowOf(entry);
+  return {row.text, static_cast<std::size_t>(row.length)};
+}
+
+int SortedRows::compare(const Entry& a, const Entry& b) const {
+  const Row& rowA = rowOf(a);
+  const Row& rowB = rowOf(b);
+  if (rowA.key == nullptr || rowB.key == nullptr) {
+    return collation_->textCompare(textOf(a), textOf(b));
+  }
+  const auto* keyA = reinterpret_cast<const char*>(rowA.key);
+  const auto* keyB = reinterpret_cast<const char*>(rowB.key);
+  const int ranks = std::strcmp(keyA, keyB);
+  if (ranks != 0) return ranks;
+  const std::size_t letters = std::strlen(keyA) + 1;  // equal ranks: the letters begin alike
+  return std::strcmp(keyA + letters, keyB + letters);
+}
+
+// Behind all rows that are not greater.
+SortedRows::Place SortedRows::insert(const Entry& entry) {
+  const auto isBefore = [this](const Entry& a, const Entry& b) {
+    const int heads = std::memcmp(a.head.data(), b.head.data(), kHead);
+    const bool bothKeyed = a.head[0] != 0 && b.head[0] != 0;
+    return heads != 0 && bothKeyed ? heads < 0 : compare(a, b) < 0;
+  };
+  if (blocks_.empty()) {
+    blocks_.push_back(std::make_unique<Block>());
+    rebuildSums();
+  }
+  const auto after = std::upper_bound(
+      blocks_.begin() + 1, blocks_.end(), entry,
+      [&](const Entry& e, const auto& block) { return isBefore(e, block->entries[0]); });
+  auto index = static_cast<std::size_t>(after - blocks_.begin()) - 1;
+  if (blocks_[index]->count == kBlockRows) {
+    splitBlock(index);
+    if (!isBefore(entry, blocks_[index + 1]->entries[0])) ++index;
+  }
+  Block& block = *blocks_[index];
+  Entry* const begin = block.entries.data();
+  Entry* const end = begin + block.count;
+  Entry* const at = std::upper_bound(begin, end, entry, isBefore);
+  std::copy_backward(at, end, end + 1);
+  *at = entry;
+  ++block.count;
+  for (std::size_t i = index + 1; i <= blocks_.size(); i += i & (~i + 1)) ++sums_[i];
+  return {index, static_cast<std::size_t>(at - begin)};
+}
+
+void SortedRows::splitBlock(std::size_t block) {
+  Block& full = *blocks_[block];
+  auto upper = std::make_unique<Block>();
+  upper->count = kBlockRows / 2;
+  full.count = kBlockRows - upper->count;
+  std::copy_n(full.entries.begin() + full.count, upper->count, upper->entries.begin());
+  blocks_.insert(blocks_.begin() + static_cast<std::ptrdiff_t>(block) + 1, std::move(upper));
+  rebuildSums();
+}
+
+void SortedRows::rebuildSums() {
+  sums_.assign(blocks_.size() + 1, 0);
+  for (std::size_t i = 1; i <= blocks_.size(); ++i) {
+    sums_[i] += static_cast<std::int32_t>(blocks_[i - 1]->count);
+    const std::size_t parent = i + (i & (~i + 1));
+    if (parent < sums_.size()) sums_[parent] += sums_[i];
+  }
+}
+
+std::int32_t SortedRows::rankOf(const Place& place) const {
+  auto rank = static_cast<std::int32_t>(place.index);
+  for (std::size_t i = place.block; i > 0; i &= i - 1) rank += sums_[i];
+  return rank;
+}
+
+SortedRows::Place SortedRows::placeOf(std::int32_t row) const {
+  std::size_t block = 0;
+  for (std::size_t step = std::bit_floor(blocks_.size()); step > 0; step /= 2) {
+    if (block + step < sums_.size() && sums_[block + step] <= row) {
+      block += step;
+      row -= sums_[block];
+    }
+  }
+  return {block, static_cast<std::size_t>(row)};
+}
+
+const SortedRows::Entry& SortedRows::entryAt(std::int32_t row) const {
+  const Place place = placeOf(row);
+  return blocks_[place.block]->entries[place.index];
+}
+
+TextView SortedRows::text(std::int32_t row) const {
+  return textOf(entryAt(row));
+}
+
+std::int32_t SortedRows::itemData(std::int32_t row) const {
+  return rowOf(entryAt(row)).itemData;
+}
+
+void SortedRows::setItemData(std::int32_t row, std::int32_t itemData) {
+  rows_[entryAt(row).id & kId].itemData = itemData;
+}
+
+void SortedRows::setText(std::int32_t row, TextView text) {
+  const Place place = placeOf(row);
+  Entry& entry = blocks_[place.block]->entries[place.index];
+  const std::uint32_t id = entry.id & kId;
+  const std::int32_t itemData = rows_[id].itemData;
+  Entry renewed = makeEntry(text);  // makes a row of its own at the end, which moves into place
+  rows_[id] = rows_.back();
+  rows_.pop_back();
+  rows_[id].itemData = itemData;
+  renewed.id = (renewed.id & ~kId) | id;
+  entry = renewed;
+}
+
+SortedRows::Prefix SortedRows::makePrefix(TextView text) const {
+  Prefix prefix{.text = text};
+  const Letters& table = collation_->letters();
+  std::size_t ranks = 0;
+  prefix.plain = text.size() <= kHead;
+  for (const char16_t character : text) {
+    const CharacterLetters& letters = table.of(character);
+    if (!letters.known()) {  // it can change what stands ahead of it: no head decides
+      prefix.plain = false;
+      return prefix;
+    }
+    if (ranks == kHead) break;
+    prefix.plain = prefix.plain && letters.count == 1 && table.isPlain(letters.letters[0]);
+    for (std::size_t i = 0; i < letters.count && ranks < kHead; ++i) {
+      prefix.head[ranks++] = table.rank(letters.letters[i]);
+    }
+  }
+  prefix.compared = std::min(ranks, text.size());
+  return prefix;
+}
+
+// The order of the row's first prefix.text.size() characters and the prefix.
+int SortedRows::comparePrefix(const Entry& entry, const Prefix& prefix) const {
+  if ((entry.id & kDense) != 0) {
+    const int heads = std::memcmp(entry.head.data(), prefix.head.data(), prefix.compared);
+    if (heads != 0) return heads;
+    if (prefix.plain && (entry.id & kPlain) != 0) return 0;
+  }
+  return collation_->textCompare(textOf(entry).substr(0, prefix.text.size()), prefix.text);
+}
+
+// The first row from `from` on at which `stop` is true; count() when it is true at none.
+template <class Stop>
+std::int32_t SortedRows::walk(std::int32_t from, Stop stop) const {
+  if (from >= count_) return count_;
+  const Place start = placeOf(from);
+  std::size_t index = start.index;
+  std::int32_t row = from;
+  for (std::size_t block = start.block; block < blocks_.size(); ++block, index = 0) {
+    const Block& rows = *blocks_[block];
+    for (; index < rows.count; ++index, ++row) {
+      if (stop(rows.entries[index])) return row;
+    }
+  }
+  return count_;
+}
+
+SortedRows::Walk SortedRows::findPrefix(TextView prefix, std::int32_t from) const {
+  const Prefix wanted = makePrefix(prefix);
+  int order = -1;
+  const std::int32_t row = walk(from, [&](const Entry& entry) {
+    order = comparePrefix(entry, wanted);
+    return order >= 0;
+  });
+  return {row, order == 0};
+}
+
+std::int32_t SortedRows::endOfRun(TextView prefix, std::int32_t from) const {
+  const Prefix wanted = makePrefix(prefix);
+  return walk(from + 1, [&](const Entry& entry) { return comparePrefix(entry, wanted) != 0; }) - 1;
+}
+
+std::int32_t SortedRows::behindEqual(std::int32_t row) const {
+  const Entry first = entryAt(row);
+  return walk(row + 1, [&](const Entry& entry) { return compare(first, entry) != 0; });
+}
+
+}  // namespace termvik

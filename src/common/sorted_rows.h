@@ -1,0 +1,137 @@
+// The rows of the sorted list: each a text and a number, kept in rising order as they are added.
+//
+// One class for all toolkits. Rows count from 0. The rows lie in blocks of a few hundred, and a row
+// carries the beginning of its collation with it, so that finding a row's place, its rank, and
+// walking along the rows touch little memory even with 300,000 of them.
+#pragma once
+
+#include "common/collation.h"
+#include "common/text.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace termvik {
+
+// Texts and keys that stay where they are until all of them go.
+template <class Char>
+class TextArena {
+ public:
+  // A copy of `text` with a 0 behind it.
+  const Char* add(std::basic_string_view<Char> text);
+  void clear() { *this = TextArena(); }
+
+ private:
+  static constexpr std::size_t kChunk = 1U << 18U;
+  std::vector<std::unique_ptr<Char[]>> chunks_;
+  std::size_t free_ = 0;  // characters left in the last chunk
+  Char* next_ = nullptr;
+};
+
+class SortedRows {
+ public:
+  explicit SortedRows(const Collation& collation);
+
+  void clear();
+
+  // Adds a row behind all rows that are not greater, with the number 0, and gives its row number.
+  std::int32_t add(TextView text);
+
+  std::int32_t count() const { return count_; }
+
+  // `row` from 0 to count() - 1. A text is good until clear().
+  TextView text(std::int32_t row) const;
+  std::int32_t itemData(std::int32_t row) const;
+  void setItemData(std::int32_t row, std::int32_t itemData);
+
+  // Replaces the text where it stands: the row keeps its place, whatever the order says.
+  void setText(std::int32_t row, TextView text);
+
+  // Where a walk over the rows ended.
+  struct Walk {
+    std::int32_t row = 0;  // the row that decided; count() when no row did
+    bool fits = false;     // its beginning equals the prefix; otherwise it sorts behind the prefix
+  };
+
+  // Walks from row `from` downwards and compares the first `prefix.size()` characters of each row
+  // with `prefix`, until a row fits or sorts behind it.
+  Walk findPrefix(TextView prefix, std::int32_t from) const;
+
+  // The last row of the unbroken run of rows from `from` on that begin with `prefix`, given that
+  // row `from` does.
+  std::int32_t endOfRun(TextView prefix, std::int32_t from) const;
+
+  // The first row behind `row` whose text differs from that of `row`; count() when there is none.
+  std::int32_t behindEqual(std::int32_t row) const;
+
+ private:
+  static constexpr std::size_t kHead = 12;
+  static constexpr std::size_t kBlockRows = 256;
+
+  using Ranks = std::array<std::uint8_t, kHead>;
+
+  struct Row {
+    const char16_t* text = nullptr;
+    const std::uint8_t* key = nullptr;  // ranks, 0, then letters if any has an accent, 0
+    std::int32_t length = 0;            // of the text, in characters
+    std::int32_t itemData = 0;
+  };
+
+  // What a walk sees of a row without going to the row itself.
+  struct Entry {
+    Ranks head{};          // the first ranks of the key, filled up with 0
+    std::uint32_t id = 0;  // index into rows_, with the two marks below
+  };
+  static constexpr std::uint32_t kId = (1U << 30U) - 1;
+  static constexpr std::uint32_t kDense = 1U << 30U;  // every character has a letter: the head of a
+                                                      // beginning is the beginning of the head
+  static constexpr std::uint32_t kPlain = 1U << 31U;  // every character is one letter, no accents
+
+  struct Block {
+    std::size_t count = 0;
+    std::array<Entry, kBlockRows> entries;
+  };
+
+  struct Place {
+    std::size_t block = 0;
+    std::size_t index = 0;
+  };
+
+  // A prefix as the walk compares it.
+  struct Prefix {
+    TextView text;
+    Ranks head{};
+    std::size_t compared = 0;  // how many ranks of a dense row's head can decide
+    bool plain = false;        // a plain row whose head agrees fits
+  };
+
+  Entry makeEntry(TextView text);
+  void makeKey(TextView text, Row& row, Entry& entry);
+  int compare(const Entry& a, const Entry& b) const;
+  const Row& rowOf(const Entry& entry) const { return rows_[entry.id & kId]; }
+  TextView textOf(const Entry& entry) const;
+  Place placeOf(std::int32_t row) const;
+  const Entry& entryAt(std::int32_t row) const;
+  Place insert(const Entry& entry);
+  void splitBlock(std::size_t block);
+  std::int32_t rankOf(const Place& place) const;
+  void rebuildSums();
+  Prefix makePrefix(TextView text) const;
+  int comparePrefix(const Entry& entry, const Prefix& prefix) const;
+  template <class Stop>
+  std::int32_t walk(std::int32_t from, Stop stop) const;
+
+  const Collation* collation_;
+  std::vector<Row> rows_;  // in the order in which they were added
+  std::vector<std::unique_ptr<Block>> blocks_;
+  std::vector<std::int32_t> sums_;  // Fenwick tree over the blocks' counts
+  std::int32_t count_ = 0;
+  TextArena<char16_t> texts_;
+  TextArena<std::uint8_t> keys_;
+  std::vector<Letter> scratch_;
+  std::vector<std::uint8_t> scratchKey_;
+};
+
+}  // namespace termvik

@@ -1,0 +1,59 @@
+// The texts of all entries of one glossary, side by side in memory: for each entry its words in
+// file order, then its comment.
+#pragma once
+
+#include "common/packed_texts.h"
+#include "common/search_term.h"
+#include "common/text.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace termvik {
+
+class EntryTexts {
+ public:
+  explicit EntryTexts(const Collation& collation) : collation_(&collation) {}
+
+  const Collation& collation() const { return *collation_; }
+
+  // Releases all texts.
+  void clear();
+
+  // Makes room for `texts` words and comments of `characters` characters in all.
+  void reserve(std::size_t texts, std::size_t characters);
+
+  // Texts count from 0, in the order in which they were added.
+  std::size_t size() const { return texts_.size(); }
+  void addWord(TextView word, char16_t wordType);
+  void addComment(TextView comment);
+  TextView text(std::size_t index) const { return texts_[index]; }
+  TextView type(std::size_t index) const { return {&types_[index], 1}; }  // of a word
+
+  // The first text from `first` up to, and not including, `end` in which `term` occurs.
+  std::optional<std::size_t> firstWith(const SearchTerm& term, std::size_t first,
+                                       std::size_t end) const;
+
+  // How often each letter stands in the texts.
+  const LetterCounts& letterCounts() const;
+
+ private:
+  // The letters of all texts, each text's closed by kNoLetter, so that one pass over bytes searches
+  // many texts. Made at the first search behind a load.
+  struct Folded {
+    PackedTexts<Letter> letters;
+    std::vector<std::size_t> unknown;  // rising: the texts that have characters without letters
+    LetterCounts counts{};
+  };
+
+  const Folded& folded() const;
+  LettersView lettersOf(const Folded& folded, std::size_t index) const;
+
+  const Collation* collation_;
+  PackedTexts<char16_t> texts_;
+  std::vector<char16_t> types_;  // parallel to texts_
+  mutable std::optional<Folded> folded_;
+};
+
+}  // namespace termvik

@@ -1,0 +1,50 @@
+// Doublets: words that stand in more than one row of the list. Equal rows lie together in the
+// sorted list, so neighbours are all that has to be compared.
+#include "lookup/frm_glossary.h"
+
+namespace termvik {
+
+namespace {
+
+constexpr TextView kRowMark = u" ------DUBBLETT-";
+constexpr TextView kReportRule = u"=======================================";
+
+}  // namespace
+
+void frmGlossary::markDoublets() {
+  for (std::int32_t i = 0; i < lstWords_.ListCount();) {
+    const std::int32_t next = lstWords_.rows().behindEqual(i);
+    if (next > i + 1) {
+      for (std::int32_t row = i; row < next; ++row) {
+        lstWords_.setList(row, Text(lstWords_.List(row)).append(kRowMark));
+      }
+    }
+    i = next;
+  }
+}
+
+void frmGlossary::mnuDoubletList_Click() {
+  copyDoubletsToClipboard();
+}
+
+void frmGlossary::copyDoubletsToClipboard() {
+  Text report = u"DUBBLETTER";
+  report.append(kLineEnd).append(kReportRule).append(kLineEnd).append(kLineEnd);
+  for (std::int32_t i = 0; i < lstWords_.ListCount();) {
+    const std::int32_t next = lstWords_.rows().behindEqual(i);
+    if (next > i + 1) {
+      for (std::int32_t row = i; row < next; ++row) {
+        const clsWEntry& entry = words_.gEntries(lstWords_.ItemData(row));
+        report.append(kLineEnd).append(kLineEnd).append(entry.getArticle(words_.gWordType));
+      }
+      report.append(kLineEnd).append(kReportRule).append(kLineEnd).append(kLineEnd);
+    }
+    i = next;
+  }
+  toolkit_.setClipboardText(report);
+  toolkit_.MsgBox(
+      u"Dubbletterna finns nu på klippbordet! \r\n"
+      u"Gör ctrl-V i Word för att kopiera dem till ett dokument!");
+}
+
+}  // namespace termvik

@@ -1,0 +1,134 @@
+// The main window: the search box, the sorted list of words, the article, and the commands that
+// change what the list holds.
+//
+// The list control is the only index of words, and the controls are the only place where the choice
+// of glossary, the search mode and the search text live.
+#pragma once
+
+#include "common/app.h"
+#include "common/search_term.h"
+#include "common/text.h"
+#include "common/toolkit.h"
+#include "glossary/def_words.h"
+#include "settings/parameters.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace termvik {
+
+class frmGlossary {
+ public:
+  // All of them must outlive the window.
+  struct Surroundings {
+    Toolkit& toolkit;
+    const App& app;
+    defWords& words;
+    parameters& settings;
+  };
+
+  explicit frmGlossary(const Surroundings& surroundings);
+
+  Window& window() { return *window_; }
+
+  // Restores the window's placement and the choice of glossary, reads the glossaries and fills the
+  // list. To be called once, before the window is shown.
+  void Form_Load();
+
+  // The chosen glossary: 0 graphical, 1 tools, 2 both; 2 also when none is chosen.
+  std::int16_t selectedGlossary() const;
+  // Chooses the glossary; any other number than 0, 1 or 2 is ignored.
+  void selectGlossary(std::int16_t Index);
+
+ private:
+  void connectEvents();
+  void restoreSettings();
+
+  // word_list.cpp
+  void fillWordList();
+  void addEntryWords(std::int32_t entryIndex);
+  template <class Visit>
+  void visitChosenEntries(Visit visit);
+  void moveInList(std::int32_t first, std::int32_t last);
+  void showSelectedArticle();
+  void placeSelection();
+  void lstWords_Click();
+  void optGlossary_Click();
+
+  // incremental_lookup.cpp
+  void txtSearch_Change();
+  void txtSearch_Click();
+  void txtSearch_KeyDown(std::int16_t& keyCode);
+  void txtSearch_KeyPress(std::int16_t& character);
+
+  // full_search.cpp
+  void cmdSearchAgain_Click();
+  void addEntryIfSearched(std::int32_t entryIndex, const std::vector<SearchTerm>& terms);
+
+  // commands.cpp
+  void optSearch_Click(std::int16_t Index);
+  void chkShowDoublet_Click();
+  void mnuEnglish_Click();
+  void mnuSwedish_Click();
+  void mnuGerman_Click();
+  void mnuFrance_Click();
+  void changeLanguage(TextView wordType);
+  void languageChanged();
+  void mnuReRead_Click();
+
+  // doublets.cpp
+  void markDoublets();
+  void mnuDoubletList_Click();
+  void copyDoubletsToClipboard();
+
+  // word_list_file.cpp
+  void mnuCreateWordList_Click();
+  bool writeWordList(const std::filesystem::path& path);
+
+  // layout.cpp
+  void Form_Resize();
+
+  // frm_glossary.cpp
+  void Form_QueryUnload();
+  void mnuAbout_Click();
+  void mnuShowGlossVersions_Click();
+
+  Toolkit& toolkit_;
+  const App& app_;
+  defWords& words_;
+  parameters& settings_;
+  std::unique_ptr<Window> window_;
+
+  TextBox& txtSearch_;
+  ListBox& lstWords_;
+  TextBox& txtArticle_;
+  OptionGroup& optGlossary_;
+  Control& picLogo_;
+  Control& lblInternet_;
+  OptionGroup& optSearch_;
+  CommandButton& cmdSearchAgain_;
+  CheckBox& chkShowDoublet_;
+
+  bool listBusy_ = false;            // moveInList is moving the selection
+  bool formLoaded_ = false;          // Form_Load has come to its end
+  bool searchOptionLocked_ = false;  // languageChanged is switching look-up on
+};
+
+// Cuts a search text into at most ten terms: words between blanks and tabs, and phrases that begin
+// with a double quote and run to the next one. Later terms are dropped.
+std::vector<TextView> splitSearchWords(const Collation& collation, TextView searchText);
+
+// Calls `visit` with the table index of each entry of the chosen glossaries, in the table's order.
+template <class Visit>
+void frmGlossary::visitChosenEntries(Visit visit) {
+  const bool both = optGlossary_.Value(2);
+  if (both || optGlossary_.Value(0)) {
+    for (std::int32_t i = words_.gGraphFirst; i <= words_.gGraphLast; ++i) visit(i);
+  }
+  if (both || optGlossary_.Value(1)) {
+    for (std::int32_t i = words_.gToolsFirst; i <= words_.gToolsLast; ++i) visit(i);
+  }
+}
+
+}  // namespace termvik

@@ -1,0 +1,111 @@
+// The memory toolkit's controls and window, with what a user can do to each.
+#pragma once
+
+#include "toolkit/memory/memory_toolkit.h"
+
+#include <algorithm>
+
+namespace termvik {
+
+// A control that shows nothing.
+template <class Base>
+class Unseen : public Base {
+ public:
+  using Base::Base;
+
+ protected:
+  void showPlace() override {}
+};
+
+class MemoryTextBox : public Unseen<TextBox> {
+ public:
+  explicit MemoryTextBox(const ControlDesign& design) : Unseen(design), text_(design.caption) {}
+
+  Text text() const override { return text_; }
+  void setText(TextView text) override;
+  std::int32_t SelStart() const override { return start_; }
+  std::int32_t SelLength() const override { return length_; }
+  void setSelStart(std::int32_t start) override;
+  void setSelLength(std::int32_t length) override;
+
+  void userReplacesSelection(TextView text);
+  void userTypes(char16_t character);
+  void userPresses(std::int16_t keyCode);
+  void userClicksBox() { userClicks(); }
+
+ private:
+  std::int32_t size() const { return static_cast<std::int32_t>(text_.size()); }
+
+  Text text_;
+  std::int32_t start_ = 0;
+  std::int32_t length_ = 0;
+};
+
+class MemoryListBox : public Unseen<ListBox> {
+ public:
+  using ListBox::userSelects;
+  using Unseen::Unseen;
+
+  void userPresses(std::int16_t keyCode);
+
+ protected:
+  void showRows() override {}
+  void showRowText(std::int32_t) override {}
+  void showSelection() override {}
+};
+
+class MemoryOptionButton : public Unseen<OptionButton> {
+ public:
+  using OptionButton::userChooses;
+  using Unseen::Unseen;
+
+ protected:
+  void showValue() override {}
+};
+
+class MemoryCheckBox : public Unseen<CheckBox> {
+ public:
+  using Unseen::Unseen;
+
+  void userClicksBox() { userSets(Value() == 0); }
+};
+
+class MemoryCommandButton : public Unseen<CommandButton> {
+ public:
+  using CommandButton::userPresses;
+  using Unseen::Unseen;
+
+ protected:
+  void showEnabled() override {}
+};
+
+class MemoryWindow : public Window {
+ public:
+  MemoryWindow(MemoryToolkit& toolkit, const WindowDesign& design);
+  ~MemoryWindow() override { Unload(); }
+
+  Place outerPlace() const override { return place_; }
+  void setOuterPlace(const Place& place) override;
+  WindowState State() const override { return state_; }
+  void maximise() override;
+  ScreenSize Screen() const override { return toolkit_.screen(); }
+  void Show() override;
+  void ShowModal() override;
+  void Unload() override;
+
+  void userMinimises();
+  void userRestores();
+  void userCloses();
+
+ private:
+  void addControl(const ControlDesign& design);
+
+  MemoryToolkit& toolkit_;
+  Place place_;
+  Place normalPlace_;
+  WindowState state_ = WindowState::Normal;
+  WindowState stateBehindIcon_ = WindowState::Normal;
+  bool shown_ = false;
+};
+
+}  // namespace termvik

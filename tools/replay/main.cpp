@@ -1,0 +1,122 @@
+// termvik-replay: the program under a script of what a user does.
+//
+//   termvik-replay [--toolkit memory|qt] [--screen WIDTHxHEIGHT] --folder DIR [SCRIPT]
+//
+// See docs/replay.md for the script's commands and what is printed.
+#include "player.h"
+
+#include <charconv>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <string_view>
+#ifdef TERMVIK_WITH_QT
+#include "toolkit/qt/qt_user.h"
+#endif
+
+namespace {
+
+using namespace termvik;
+
+constexpr int kWrongUse = 2;
+
+struct Options {
+  std::string toolkit = "memory";
+  ScreenSize screen{28800, 16200};
+  std::string folder;
+  std::string script;
+};
+
+bool readScreen(std::string_view text, ScreenSize& screen) {
+  const char* const end = text.data() + text.size();
+  const auto width = std::from_chars(text.data(), end, screen.Width);
+  if (width.ec != std::errc() || width.ptr == end || *width.ptr != 'x') return false;
+  const auto height = std::from_chars(width.ptr + 1, end, screen.Height);
+  return height.ec == std::errc() && height.ptr == end && screen.Width > 0 && screen.Height > 0;
+}
+
+// False, with the reason in `wrong`, when the command line cannot be used.
+bool readOptions(int count, char** arguments, Options& options, std::string& wrong) {
+  for (int i = 1; i < count; ++i) {
+    const std::string_view argument = arguments[i];
+    const bool takesValue =
+        argument == "--toolkit" || argument == "--screen" || argument == "--folder";
+    if (takesValue && i + 1 == count) {
+      wrong = std::string(argument) + " needs a value";
+      return false;
+    }
+    if (argument == "--toolkit") {
+      options.toolkit = arguments[++i];
+    } else if (argument == "--folder") {
+      options.folder = arguments[++i];
+    } else if (argument == "--screen") {
+      if (!readScreen(arguments[++i], options.screen)) {
+        wrong = "--screen takes WIDTHxHEIGHT in twips";
+        return false;
+      }
+    } else if (argument.starts_with("--") || !options.script.empty()) {
+      wrong = "what is " + std::string(argument) + "?";
+      return false;
+    } else {
+      options.script = argument;
+    }
+  }
+  if (options.folder.empty()) wrong = "--folder is missing";
+  return wrong.empty();
+}
+
+std::unique_ptr<User> makeUser(const Options& options, const Collation& collation) {
+  if (options.toolkit == "memory") return makeMemoryUser(collation, options.screen);
+#ifdef TERMVIK_WITH_QT
+  if (options.toolkit == "qt") return makeQtUser(collation);
+#endif
+  return nullptr;
+}
+
+int playScript(std::istream& script, replay::Player& player) {
+  std::string line;
+  for (int number = 1; std::getline(script, line); ++number) {
+    try {
+      player.play(line);
+    } catch (const replay::ScriptError& error) {
+      std::cout.flush();
+      std::cerr << "line " << number << ": " << error.what() << '\n';
+      return kWrongUse;
+    }
+  }
+  return 0;
+}
+
+int run(const Options& options) {
+  const Collation collation("sv_SE");
+  const std::unique_ptr<User> user = makeUser(options, collation);
+  if (!user) {
+    std::cerr << "termvik-replay: this build has no toolkit " << options.toolkit << '\n';
+    return kWrongUse;
+  }
+  App app;
+  app.Path = options.folder;
+  replay::Player player(*user, collation, app, std::cout);
+  if (options.script.empty()) return playScript(std::cin, player);
+  std::ifstream script(options.script, std::ios::binary);
+  if (!script) {
+    std::cerr << "termvik-replay: cannot read " << options.script << '\n';
+    return kWrongUse;
+  }
+  return playScript(script, player);
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  Options options;
+  std::string wrong;
+  if (!readOptions(count, arguments, options, wrong)) {
+    std::cerr << "termvik-replay: " << wrong
+              << "\nusage: termvik-replay [--toolkit memory|qt] [--screen WIDTHxHEIGHT]"
+                 " --folder DIR [SCRIPT]\n";
+    return kWrongUse;
+  }
+  return run(options);
+}

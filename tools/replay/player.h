@@ -1,0 +1,55 @@
+// Plays a script of a user's acts on the real program.
+#pragma once
+
+#include "app/program.h"
+#include "toolkit/user.h"
+
+#include <functional>
+#include <memory>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace termvik::replay {
+
+// What is wrong with a line of a script.
+class ScriptError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+class Player {
+ public:
+  // What the program shows and what the script asks for is printed on `out`.
+  Player(User& user, const Collation& collation, const App& app, std::ostream& out);
+
+  // Does what one line says. Throws ScriptError.
+  void play(std::string_view line);
+
+ private:
+  using Words = std::vector<std::string_view>;
+
+  void start();
+  void act(std::string_view command, std::string_view rest);
+  void actOnWords(std::string_view command, const Words& words);
+  void typeText(TextView text);
+  void click(std::string_view name);
+  void clickRow(std::string_view row);
+  void clickOption(std::string_view name, std::string_view index);
+  void check(std::string_view value);
+  void chooseMenu(std::string_view name);
+  void call(std::string_view operation);
+  void placeWindow(const Words& measures);
+  void close();
+  Window& window() { return program_->form().window(); }
+
+  User& user_;
+  const Collation& collation_;
+  const App& app_;
+  std::ostream& out_;
+  std::unique_ptr<Program> program_;
+};
+
+}  // namespace termvik::replay
