@@ -63,7 +63,7 @@ class TextBox : public Control {
   // Replaces the text and shows it from its beginning. Raises no event.
   virtual void setText(TextView text) = 0;
 
-  // Start (0-based) and length of the selected part, in characters.
+  // Start (0-based) and length of the selected part of a box of one line, in characters.
   virtual std::int32_t SelStart() const = 0;
   virtual std::int32_t SelLength() const = 0;
   virtual void setSelStart(std::int32_t start) = 0;    // the selected part becomes empty

@@ -1,0 +1,75 @@
+// Controls that are one Qt widget each, without behaviour of their own.
+#pragma once
+
+#include "common/toolkit.h"
+#include "toolkit/qt/qt_text.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <memory>
+
+namespace termvik {
+
+// What shows a control.
+class QtShown {
+ public:
+  virtual ~QtShown() = default;
+  virtual QWidget* shown() const = 0;
+};
+
+inline QWidget* qtWidget(const Control& control) {
+  return dynamic_cast<const QtShown&>(control).shown();
+}
+
+// A control shown by a widget, which belongs to its parent widget.
+template <class Base, class Widget>
+class QtControl : public Base, public QtShown {
+ public:
+  template <class... Arguments>
+  QtControl(Widget* widget, const ControlDesign& design, Arguments&&... arguments)
+      : Base(design, std::forward<Arguments>(arguments)...), widget_(widget) {
+    QtControl::showPlace();
+  }
+
+  Widget* widget() const { return widget_; }
+  QWidget* shown() const override { return widget_; }
+
+ protected:
+  void showPlace() override { widget_->setGeometry(toPixels(this->place())); }
+
+ private:
+  Widget* widget_;
+};
+
+class QtOptionButton : public QtControl<OptionButton, QRadioButton> {
+ public:
+  QtOptionButton(QWidget* parent, const ControlDesign& design, OptionGroup& group);
+
+ protected:
+  void showValue() override;
+};
+
+class QtCheckBox : public QtControl<CheckBox, QCheckBox> {
+ public:
+  QtCheckBox(QWidget* parent, const ControlDesign& design);
+};
+
+class QtCommandButton : public QtControl<CommandButton, QPushButton> {
+ public:
+  QtCommandButton(QWidget* parent, const ControlDesign& design);
+
+ protected:
+  void showEnabled() override { widget()->setEnabled(Enabled()); }
+};
+
+// Labels, pictures, frames and lines.
+std::unique_ptr<Control> makeQtDecoration(QWidget* parent, const ControlDesign& design);
+
+// Gives a widget the colours that its design names.
+void applyColours(QWidget& widget, const ControlDesign& design);
+
+}  // namespace termvik

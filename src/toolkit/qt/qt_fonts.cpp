@@ -1,0 +1,118 @@
+#include "toolkit/qt/qt_fonts.h"
+
+#include "toolkit/qt/qt_text.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace termvik {
+
+namespace {
+
+// Sizes follow the twips of the design, not the resolution that a screen claims to have.
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr int kLeastPixels = 11;  // the size that the captions' places were drawn for
+constexpr int kLeastMenuPixels = 9;
+constexpr int kLeastStretch = 75;
+
+// Families as wide as the ones that the designs were drawn with.
+const QStringList& sansFamilies() {
+  static const QStringList families = {
+      QStringLiteral("MS Sans Serif"), QStringLiteral("Microsoft Sans Serif"),
+      QStringLiteral("Arial"), QStringLiteral("Liberation Sans"), QStringLiteral("Nimbus Sans")};
+  return families;
+}
+
+// What a control needs beside its caption.
+int roomBesideCaption(const ControlDesign& design) {
+  const QStyle& style = *QApplication::style();
+  switch (design.kind) {
+    case ControlKind::OptionButton:
+      return style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) +
+             style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing);
+    case ControlKind::CheckBox:
+      return style.pixelMetric(QStyle::PM_IndicatorWidth) +
+             style.pixelMetric(QStyle::PM_CheckBoxLabelSpacing);
+    case ControlKind::CommandButton:
+      return 2 * style.pixelMetric(QStyle::PM_ButtonMargin);
+    case ControlKind::TextBox:
+      return 2 * style.pixelMetric(QStyle::PM_DefaultFrameWidth) + 10;  // and document margins
+    default:
+      return 2;
+  }
+}
+
+bool captionFits(const ControlDesign& design, const QFont& font) {
+  const QFontMetrics metrics(font);
+  const QRect place = toPixels(design.place);
+  const int width = place.width() - roomBesideCaption(design);
+  if (!design.multiLine) return metrics.horizontalAdvance(toQt(design.caption)) <= width;
+  const QRect needed =
+      metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, toQt(trimEnd(design.caption)));
+  return needed.width() <= width && needed.height() <= place.height();
+}
+
+bool allCaptionsFit(const WindowDesign& design, const QFont& font) {
+  return std::all_of(design.controls.begin(), design.controls.end(), [&](const auto& control) {
+    return control.font.points > 0 || captionFits(control, font);
+  });
+}
+
+}  // namespace
+
+QFont designedFont(const FontDesign& design) {
+  QFont font = QApplication::font();
+  const QString family = toQt(design.family);
+  QStringList families = {family};
+  if (sansFamilies().contains(family)) families = sansFamilies();
+  families << QStringLiteral("DejaVu Sans") << font.families();
+  font.setFamilies(families);
+  font.setPixelSize(static_cast<int>(std::lround(design.points * kPixelsPerPoint)));
+  font.setBold(design.bold);
+  font.setItalic(design.italic);
+  return font;
+}
+
+QFont captionFont(const WindowDesign& design) {
+  QFont font = QApplication::font();
+  const int pixels = std::max(QFontInfo(font).pixelSize(), kLeastPixels);
+  QStringList familiesToTry = {QFontInfo(font).family()};
+  for (const QString& family : sansFamilies()) {
+    if (QFontDatabase::families().contains(family)) familiesToTry << family;
+  }
+  for (const QString& family : familiesToTry) {
+    font.setFamilies({family});
+    for (int size = pixels; size >= kLeastPixels; --size) {
+      font.setPixelSize(size);
+      if (allCaptionsFit(design, font)) return font;
+    }
+  }
+  // Only wide fonts are installed: narrow the letters rather than make them too small to read.
+  for (int stretch = 100; stretch >= kLeastStretch && !allCaptionsFit(design, font); stretch -= 5) {
+    font.setStretch(stretch);
+  }
+  return font;
+}
+
+void fitMenuBar(QMenuBar& bar, QFont font, int width) {
+  bar.setFont(font);
+  while (bar.sizeHint().width() > width && font.pixelSize() > kLeastMenuPixels) {
+    font.setPixelSize(font.pixelSize() - 1);
+    bar.setFont(font);
+  }
+}
+
+void shrinkToFit(QWidget& widget, const ControlDesign& design) {
+  QFont font = widget.font();
+  while (font.pixelSize() > 1 && !captionFits(design, font)) {
+    font.setPixelSize(font.pixelSize() - 1);
+  }
+  widget.setFont(font);
+}
+
+}  // namespace termvik

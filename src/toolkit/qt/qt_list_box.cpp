@@ -1,0 +1,114 @@
+#include "toolkit/qt/qt_list_box.h"
+
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace termvik {
+
+namespace {
+
+// No list is wide enough to show more; a line of megabytes must not be laid out.
+constexpr std::size_t kMostShown = 1000;
+
+// All rows have one height, so that the view never measures their texts.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+    constexpr int kBetweenRows = 1;
+    return {0, option.fontMetrics.height() + kBetweenRows};
+  }
+};
+
+}  // namespace
+
+int RowsModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() || changing_ ? 0 : rows_.count();
+}
+
+QVariant RowsModel::data(const QModelIndex& index, int role) const {
+  if (!index.isValid() || changing_ || role != Qt::DisplayRole) return {};
+  return toQt(rows_.text(index.row()).substr(0, kMostShown));
+}
+
+void RowsModel::beginChange() {
+  if (changing_) return;
+  beginResetModel();
+  changing_ = true;
+}
+
+void RowsModel::endChange() {
+  if (!changing_) return;
+  changing_ = false;
+  endResetModel();
+}
+
+void RowsModel::showRowText(int row) {
+  if (!changing_) emit dataChanged(index(row), index(row));
+}
+
+class QtListBox::View : public QListView {
+ public:
+  using QListView::QListView;
+
+ protected:
+  // A row stays selected whatever is held down during a click.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override {
+    const auto command = QListView::selectionCommand(index, event);
+    return command == QItemSelectionModel::NoUpdate || !index.isValid()
+               ? QItemSelectionModel::NoUpdate
+               : QItemSelectionModel::ClearAndSelect;
+  }
+};
+
+QtListBox::QtListBox(QWidget* parent, const ControlDesign& design, const Collation& collation)
+    : QtControl(new View(parent), design, collation), model_(new RowsModel(rows(), widget())) {
+  QListView& view = *widget();
+  view.setModel(model_);
+  view.setItemDelegate(new RowDelegate(&view));
+  view.setUniformItemSizes(true);
+  view.setSelectionMode(QAbstractItemView::SingleSelection);
+  view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  view.setTextElideMode(Qt::ElideRight);
+  QObject::connect(view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
+                   [this](const QModelIndex& current) {
+                     if (!selecting_ && current.isValid()) userSelects(current.row());
+                   });
+}
+
+// Rows come by the hundred thousand: the view hears of them once, when the program selects one of
+// them or, at the latest, when it has come to rest.
+void QtListBox::showRows() {
+  if (model_->isChanging()) return;
+  model_->beginChange();
+  QMetaObject::invokeMethod(
+      model_, [this] { finishChange(); }, Qt::QueuedConnection);
+}
+
+void QtListBox::finishChange() {
+  if (!model_->isChanging()) return;
+  model_->endChange();
+  if (ListIndex() >= 0) selectQuietly();
+}
+
+void QtListBox::showRowText(std::int32_t row) {
+  model_->showRowText(row);
+}
+
+void QtListBox::selectQuietly() {
+  selecting_ = true;
+  widget()->setCurrentIndex(model_->index(ListIndex()));
+  selecting_ = false;
+}
+
+void QtListBox::showSelection() {
+  model_->endChange();
+  selectQuietly();
+  widget()->scrollTo(model_->index(ListIndex()));
+}
+
+}  // namespace termvik

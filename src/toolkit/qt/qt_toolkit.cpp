@@ -1,0 +1,49 @@
+#include "toolkit/qt/qt_toolkit.h"
+
+#include "common/app.h"
+#include "toolkit/qt/qt_text.h"
+#include "toolkit/qt/qt_window.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QIcon>
+#include <QMessageBox>
+#include <QPushButton>
+
+// Outside the namespace, as the macro asks; a static library's pictures are not there by
+// themselves.
+static void initPictures() {
+  Q_INIT_RESOURCE(pictures);
+}
+
+namespace termvik {
+
+void QtToolkit::setUpApplication() {
+  initPictures();
+  QApplication::setApplicationName(toQt(kProgramName));
+  QGuiApplication::setDesktopFileName(QStringLiteral("termvik"));
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    icon.addFile(QStringLiteral(":/icon-%1.png").arg(size));
+  }
+  QApplication::setWindowIcon(icon);
+}
+
+std::unique_ptr<Window> QtToolkit::createWindow(const WindowDesign& design) {
+  return std::make_unique<QtWindow>(*this, collation_, design);
+}
+
+void QtToolkit::MsgBox(TextView prompt) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(toQt(kProgramName));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(toQt(prompt));
+  box.addButton(QMessageBox::Ok);
+  box.exec();
+}
+
+void QtToolkit::setClipboardText(TextView text) {
+  QGuiApplication::clipboard()->setText(toQt(text));
+}
+
+}  // namespace termvik

@@ -1,0 +1,65 @@
+// A window of the program as a Qt main window.
+#pragma once
+
+#include "common/toolkit.h"
+
+#include <QEventLoop>
+#include <QMainWindow>
+
+#include <memory>
+
+namespace termvik {
+
+class QtToolkit;
+
+class QtWindow : public Window {
+ public:
+  QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowDesign& design);
+  ~QtWindow() override;
+
+  Place outerPlace() const override { return outer_; }
+  void setOuterPlace(const Place& place) override;
+  WindowState State() const override;
+  void maximise() override;
+  ScreenSize Screen() const override;
+  void Show() override;
+  void ShowModal() override;
+  void Unload() override;
+
+  QMainWindow& widget();
+  QAction* action(const MenuItem& item) const;
+
+ private:
+  class MainWindow;
+
+  void addControls(const Collation& collation);
+  void addControl(const ControlDesign& design, const QFont& captionFont,
+                  const Collation& collation);
+  QWidget* containerOf(const ControlDesign& design) const;
+  void setTabOrder();
+  void addMenu(const QFont& captionFont);
+  void addKeys();
+  void focusMenuBar();
+  void placeWidget();
+  QRect outerPixels() const;
+  void learnFrame();
+  void watchFrame();
+  void readPlace();
+  void userCloses();
+
+  QtToolkit& toolkit_;
+  std::unique_ptr<MainWindow> widget_;
+  QEventLoop modalLoop_;
+  std::vector<std::pair<const MenuItem*, QAction*>> actions_;
+
+  Place outer_;     // in force, as the program knows it
+  QRect placed_;    // the outer rectangle in pixels that outer_ stands for
+  QMargins frame_;  // the frame that placed_ was reckoned with
+  bool frameKnown_ = false;
+  bool wantsSize_ = false;      // the program has set the outer size and the frame is not yet known
+  bool wantsPosition_ = false;  // the same for the position
+  bool placing_ = false;        // the program places the window, not the user
+  bool open_ = true;
+};
+
+}  // namespace termvik
