@@ -57,9 +57,11 @@ bool captionFits(const ControlDesign& design, const QFont& font) {
   return needed.width() <= width && needed.height() <= place.height();
 }
 
+// Texts to be read shrink by themselves: a long one must not make all captions small.
 bool allCaptionsFit(const WindowDesign& design, const QFont& font) {
   return std::all_of(design.controls.begin(), design.controls.end(), [&](const auto& control) {
-    return control.font.points > 0 || captionFits(control, font);
+    const bool sharesFont = control.font.points == 0 && control.kind != ControlKind::TextBox;
+    return !sharesFont || captionFits(control, font);
   });
 }
 

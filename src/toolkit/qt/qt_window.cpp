@@ -41,7 +41,10 @@ class QtWindow::MainWindow : public QMainWindow {
   MainWindow(QtWindow& window, Qt::WindowFlags flags)
       : QMainWindow(nullptr, flags), window_(window) {
     setMinimumSize(1, 1);  // the layout has no lower limit
-    setCentralWidget(new QWidget(this));
+    auto* client = new QFrame(this);
+    // A window without a frame of the desktop's gets a line around it.
+    if (flags.testFlag(Qt::FramelessWindowHint)) client->setFrameStyle(QFrame::Box | QFrame::Plain);
+    setCentralWidget(client);
   }
 
  protected:
