@@ -54,8 +54,11 @@ QFrame* makeLine(QWidget* parent) {
 
 }  // namespace
 
-QtOptionButton::QtOptionButton(QWidget* parent, const ControlDesign& design, OptionGroup& group)
-    : QtControl(new QRadioButton(toQt(design.caption), parent), design, group) {
+QtOptionButton::QtOptionButton(QWidget* parent, const ControlDesign& design, OptionGroup& group,
+                               QButtonGroup& exclusive)
+    : QtControl(new QRadioButton(toQt(design.caption), parent), design, group),
+      exclusive_(exclusive) {
+  exclusive_.addButton(widget());
   widget()->setChecked(Value());
   QObject::connect(widget(), &QRadioButton::toggled, widget(), [this](bool on) {
     if (on) userChooses();
@@ -64,9 +67,9 @@ QtOptionButton::QtOptionButton(QWidget* parent, const ControlDesign& design, Opt
 
 void QtOptionButton::showValue() {
   const QSignalBlocker quiet(widget());
-  widget()->setAutoExclusive(false);  // else the last button that is on cannot be switched off
+  exclusive_.setExclusive(false);  // else the last button that is on cannot be switched off
   widget()->setChecked(Value());
-  widget()->setAutoExclusive(true);
+  exclusive_.setExclusive(true);
 }
 
 QtCheckBox::QtCheckBox(QWidget* parent, const ControlDesign& design)

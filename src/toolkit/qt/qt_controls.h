@@ -4,6 +4,7 @@
 #include "common/toolkit.h"
 #include "toolkit/qt/qt_text.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -47,10 +48,15 @@ class QtControl : public Base, public QtShown {
 
 class QtOptionButton : public QtControl<OptionButton, QRadioButton> {
  public:
-  QtOptionButton(QWidget* parent, const ControlDesign& design, OptionGroup& group);
+  // The buttons of one group share `exclusive`, which makes them one for the keyboard.
+  QtOptionButton(QWidget* parent, const ControlDesign& design, OptionGroup& group,
+                 QButtonGroup& exclusive);
 
  protected:
   void showValue() override;
+
+ private:
+  QButtonGroup& exclusive_;
 };
 
 class QtCheckBox : public QtControl<CheckBox, QCheckBox> {

@@ -16,6 +16,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include <array>
+
 namespace termvik {
 
 namespace {
@@ -35,34 +37,34 @@ Qt::Key qtKey(std::int16_t keyCode) {
   }
 }
 
-// Qt's offscreen platform with a screen of the usual size instead of its own of 800 by 600.
-void chooseOffscreen(QTemporaryFile& screens) {
-  if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
-      qgetenv("QT_QPA_PLATFORM") != "offscreen") {
-    return;
-  }
-  if (!screens.open()) return;
+// Which platform Qt is to use: the one that the environment asks for, otherwise offscreen, with a
+// screen of the usual size instead of its own of 800 by 600.
+QByteArray choosePlatform(QTemporaryFile& screens) {
+  QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+  if (platform.isEmpty()) platform = "offscreen";
+  if (platform != "offscreen" || !screens.open()) return platform;
   screens.write(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1920,)"
                 R"( "height": 1080, "logicalDpi": 96, "dpr": 1}]})");
   screens.flush();
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toUtf8());
+  return platform + ":configfile=" + screens.fileName().toUtf8();
 }
 
 class Application {
  public:
-  Application() {
+  Application() : platform_(choosePlatform(screens_)) {
     // What Qt remarks about its platform is not for the reader of a test's output.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
-    chooseOffscreen(screens_);
-    application_ = std::make_unique<QApplication>(count_, arguments_);
+    application_ = std::make_unique<QApplication>(count_, arguments_.data());
     QtToolkit::setUpApplication();
   }
 
  private:
-  int count_ = 1;
-  char name_[8] = "termvik";
-  char* arguments_[2] = {name_, nullptr};
   QTemporaryFile screens_;
+  QByteArray platform_;
+  QByteArray name_ = "termvik";
+  QByteArray option_ = "-platform";
+  int count_ = 3;
+  std::array<char*, 4> arguments_{name_.data(), option_.data(), platform_.data(), nullptr};
   std::unique_ptr<QApplication> application_;
 };
 
@@ -92,7 +94,9 @@ class QtUser : public QObject, public User {
     const QString before = edit.text();
     const QString typed = toQt(TextView(&character, 1));
     QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_unknown, typed, Qt::NoModifier);
-    if (edit.text() == before) {  // no key of a keyboard gives it: it comes from an input method
+    // What no key of a keyboard gives, such as half of a surrogate pair, comes from an input
+    // method.
+    if (edit.text() == before && !QChar(character).isPrint()) {
       QInputMethodEvent event;
       event.setCommitString(typed);
       QApplication::sendEvent(&edit, &event);

@@ -140,7 +140,8 @@ void QtWindow::addControl(const ControlDesign& design, const QFont& captionFont,
       control = std::make_unique<QtListBox>(parent, design, collation);
       break;
     case ControlKind::OptionButton:
-      control = std::make_unique<QtOptionButton>(parent, design, groupOf(design));
+      control =
+          std::make_unique<QtOptionButton>(parent, design, groupOf(design), exclusiveGroup(design));
       break;
     case ControlKind::CheckBox:
       control = std::make_unique<QtCheckBox>(parent, design);
@@ -159,6 +160,14 @@ void QtWindow::addControl(const ControlDesign& design, const QFont& captionFont,
   if (!design.tabStop) widget->setFocusPolicy(Qt::ClickFocus);
   applyColours(*widget, design);
   Window::addControl(std::move(control));
+}
+
+QButtonGroup& QtWindow::exclusiveGroup(const ControlDesign& design) {
+  const QString name = toQt(design.name);
+  if (auto* group = widget_->findChild<QButtonGroup*>(name)) return *group;
+  auto* group = new QButtonGroup(widget_.get());
+  group->setObjectName(name);
+  return *group;
 }
 
 QWidget* QtWindow::containerOf(const ControlDesign& design) const {

@@ -3,6 +3,7 @@
 
 #include "common/toolkit.h"
 
+#include <QButtonGroup>
 #include <QEventLoop>
 #include <QMainWindow>
 
@@ -35,6 +36,7 @@ class QtWindow : public Window {
   void addControls(const Collation& collation);
   void addControl(const ControlDesign& design, const QFont& captionFont,
                   const Collation& collation);
+  QButtonGroup& exclusiveGroup(const ControlDesign& design);
   QWidget* containerOf(const ControlDesign& design) const;
   void setTabOrder();
   void addMenu(const QFont& captionFont);

@@ -1,0 +1,84 @@
+// What a person finds in the real main window beyond what the program asks of a toolkit.
+#include "toolkit/qt/qt_window.h"
+
+#include "lookup/frm_glossary_design.h"
+#include "toolkit/qt/qt_controls.h"
+#include "toolkit/qt/qt_user.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace termvik {
+namespace {
+
+class QtMainWindow : public testing::Test {
+ protected:
+  QtMainWindow() {
+    window->Show();
+    QCoreApplication::processEvents();
+  }
+
+  QMainWindow& widget() const { return dynamic_cast<QtWindow&>(*window).widget(); }
+
+  const Collation collation{"sv_SE"};
+  const std::unique_ptr<User> user = makeQtUser(collation);
+  const std::unique_ptr<Window> window = user->toolkit().createWindow(frmGlossaryDesign());
+};
+
+TEST_F(QtMainWindow, TabGoesThroughTheControlsInTheirOrder) {
+  window->optionGroup(u"optGlossary").setValue(2, true);  // of a group Tab visits what is on
+  window->commandButton(u"cmdSearchAgain").setEnabled(true);
+  qtWidget(window->textBox(u"txtSearch"))->setFocus();
+  QStringList visited;
+  for (int i = 0; i < 7; ++i) {
+    visited << QApplication::focusWidget()->objectName();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(visited.join(QChar(u' ')).toStdString(),
+            "txtSearch lstWords txtArticle optGlossary optSearch cmdSearchAgain chkShowDoublet");
+}
+
+TEST_F(QtMainWindow, EveryControlHasANameToBeSaidAndRoomForItsCaption) {
+  for (const auto& control : window->controls()) {
+    QWidget* shown = qtWidget(*control);
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(shown);
+    ASSERT_NE(face, nullptr);
+    EXPECT_FALSE(face->text(QAccessible::Name).isEmpty()) << toUtf8(control->design().name);
+    const bool isButton = qobject_cast<QAbstractButton*>(shown) != nullptr;
+    if (!isButton || qobject_cast<QPushButton*>(shown) != nullptr) continue;
+    EXPECT_LE(shown->sizeHint().width(), shown->width()) << toUtf8(control->design().caption);
+  }
+}
+
+TEST_F(QtMainWindow, TheMenuBarShowsAllNineItemsAndTheListItsRows) {
+  const QMenuBar& bar = *widget().menuBar();
+  EXPECT_FALSE(bar.isNativeMenuBar());
+  ASSERT_EQ(bar.actions().size(), 9);
+  for (QAction* action : bar.actions()) {
+    EXPECT_TRUE(bar.rect().contains(bar.actionGeometry(action))) << qPrintable(action->text());
+  }
+  ListBox& list = window->listBox(u"lstWords");
+  for (const TextView word : {u"sax", u"kil"}) list.AddItem(word);
+  list.setListIndex(1);
+  QAccessibleInterface* face = QAccessible::queryAccessibleInterface(qtWidget(list));
+  ASSERT_EQ(face->childCount(), 2);
+  EXPECT_EQ(face->child(1)->text(QAccessible::Name).toStdString(), "sax");
+  EXPECT_TRUE(face->child(1)->state().selected);
+}
+
+TEST_F(QtMainWindow, TheArticleCanBeSelectedWholeAndNotChanged) {
+  TextBox& article = window->textBox(u"txtArticle");
+  article.setText(u"S: kil\r\nE: wedge");
+  auto& edit = *qobject_cast<QPlainTextEdit*>(qtWidget(article));
+  QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(&edit, "x");
+  EXPECT_EQ(edit.textCursor().selectedText().toStdU16String(), u"S: kil\u2029E: wedge");
+}
+
+}  // namespace
+}  // namespace termvik
