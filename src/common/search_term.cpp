@@ -18,14 +18,22 @@ bool sameWeights(const CollationElement& a, const CollationElement& b) {
   return a.primary == b.primary && a.secondary == b.secondary;
 }
 
-// How many letters the characters from `index` on have until at least `wanted` of them are counted.
-// `index` goes to the character behind them.
-std::size_t countLetters(const Letters& letters, TextView text, std::size_t& index,
-                         std::size_t wanted) {
-  std::size_t count = 0;
-  while (count < wanted) count += letters.of(text[index++]).count;
-  return count;
-}
+// Where a text's characters begin and end among its letters. To be asked in rising order.
+class CharacterEdges {
+ public:
+  CharacterEdges(const Letters& letters, TextView text) : letters_(letters), text_(text) {}
+
+  bool isEdge(std::size_t place) {
+    while (before_ < place) before_ += letters_.of(text_[index_++]).count;
+    return before_ == place;
+  }
+
+ private:
+  const Letters& letters_;
+  TextView text_;
+  std::size_t index_ = 0;   // of the character that the walk has come to
+  std::size_t before_ = 0;  // letters of the characters ahead of it
+};
 
 }  // namespace
 
@@ -37,6 +45,7 @@ SearchTerm::SearchTerm(const Collation& collation, TextView term, const LetterCo
       std::min_element(letters_->begin(), letters_->end(),
                        [&counts](Letter a, Letter b) { return counts.at(a) < counts.at(b); });
   rarest_ = static_cast<std::size_t>(rarest - letters_->begin());
+  if (letters_->size() > kLongTerm) prepareLongTerm();
 }
 
 void SearchTerm::spell() {
@@ -56,39 +65,61 @@ bool SearchTerm::occursIn(TextView text) const {
 
 bool SearchTerm::occursIn(TextView text, LettersView letters) const {
   if (!letters_) return false;
-  const Letters& table = collation_->letters();
-  std::size_t index = 0;   // of the character that the walk has come to
-  std::size_t before = 0;  // letters of the characters ahead of it
-  for (std::size_t hit = find(letters, 0); hit != kNotFound; hit = find(letters, hit + 1)) {
-    before += countLetters(table, text, index, hit - before);
-    if (before != hit) continue;  // inside a character that has several letters
-    std::size_t last = index;
-    if (countLetters(table, text, last, letters_->size()) == letters_->size()) return true;
-  }
-  return false;
+  CharacterEdges begins(collation_->letters(), text);
+  CharacterEdges ends(collation_->letters(), text);
+  return firstPlace(letters, [&](std::size_t place) {
+           return begins.isEdge(place) && ends.isEdge(place + letters_->size());
+         }) != kNotFound;
 }
 
-std::size_t SearchTerm::find(LettersView letters, std::size_t from) const {
+std::size_t SearchTerm::find(LettersView letters) const {
   if (!letters_) return kNotFound;
+  return firstPlace(letters, [](std::size_t) { return true; });
+}
+
+template <class Accept>
+std::size_t SearchTerm::firstPlace(LettersView letters, Accept accept) const {
   const LettersView term(letters_->data(), letters_->size());
-  if (term.empty() || letters.size() < term.size()) return term.empty() ? from : kNotFound;
-  if (term.size() > kLongTerm) {
-    const auto start =
-        letters.begin() + static_cast<std::ptrdiff_t>(std::min(from, letters.size()));
-    const auto found = std::search(start, letters.end(),
-                                   std::boyer_moore_searcher(letters_->begin(), letters_->end()));
-    return found == letters.end() ? kNotFound : static_cast<std::size_t>(found - letters.begin());
-  }
-  const std::size_t lastStart = letters.size() - term.size();
-  while (from <= lastStart) {
+  if (term.empty()) return 0;
+  if (letters.size() < term.size()) return kNotFound;
+  if (term.size() > kLongTerm) return firstPlaceOfLongTerm(letters, accept);
+  const std::size_t lastPlace = letters.size() - term.size();
+  for (std::size_t place = 0; place <= lastPlace; ++place) {
     const void* found =
-        std::memchr(letters.data() + from + rarest_, term[rarest_], lastStart - from + 1);
+        std::memchr(letters.data() + place + rarest_, term[rarest_], lastPlace - place + 1);
     if (found == nullptr) return kNotFound;
-    from = static_cast<std::size_t>(static_cast<const Letter*>(found) - letters.data()) - rarest_;
-    if (std::memcmp(letters.data() + from, term.data(), term.size()) == 0) return from;
-    ++from;
+    place = static_cast<std::size_t>(static_cast<const Letter*>(found) - letters.data()) - rarest_;
+    const bool stands = std::memcmp(letters.data() + place, term.data(), term.size()) == 0;
+    if (stands && accept(place)) return place;
   }
   return kNotFound;
+}
+
+// The search of Knuth, Morris and Pratt: reads every letter once.
+template <class Accept>
+std::size_t SearchTerm::firstPlaceOfLongTerm(LettersView letters, Accept accept) const {
+  const std::vector<Letter>& term = *letters_;
+  std::size_t matched = 0;
+  for (std::size_t i = 0; i < letters.size(); ++i) {
+    while (matched > 0 && term[matched] != letters[i]) matched = restarts_[matched - 1];
+    if (term[matched] == letters[i]) ++matched;
+    if (matched < term.size()) continue;
+    const std::size_t place = i + 1 - matched;
+    if (accept(place)) return place;
+    matched = restarts_.back();
+  }
+  return kNotFound;
+}
+
+void SearchTerm::prepareLongTerm() {
+  const std::vector<Letter>& term = *letters_;
+  restarts_.assign(term.size(), 0);
+  std::size_t matched = 0;
+  for (std::size_t i = 1; i < term.size(); ++i) {
+    while (matched > 0 && term[matched] != term[i]) matched = restarts_[matched - 1];
+    if (term[matched] == term[i]) ++matched;
+    restarts_[i] = matched;
+  }
 }
 
 // The road for texts whose characters depend on their neighbours or are unknown: for every start,

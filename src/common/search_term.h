@@ -9,7 +9,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -32,20 +31,29 @@ class SearchTerm {
   // The same for a text of known characters, whose letters stand ready.
   bool occursIn(TextView text, LettersView letters) const;
 
-  // The first place at or behind `from` where the term's letters stand, kNotFound when there is
-  // none. A place can still lie inside a character: occursIn decides.
-  std::size_t find(LettersView letters, std::size_t from) const;
+  // The first place where the term's letters stand, kNotFound when there is none. A place can still
+  // lie inside a character: occursIn decides.
+  std::size_t find(LettersView letters) const;
 
  private:
+  // The first place of the term's letters that `accept` agrees to; it is asked in rising order.
+  template <class Accept>
+  std::size_t firstPlace(LettersView letters, Accept accept) const;
+  template <class Accept>
+  std::size_t firstPlaceOfLongTerm(LettersView letters, Accept accept) const;
+
   bool occursByCollator(TextView text) const;
   bool equalsStretchNear(TextView text, std::size_t start, std::size_t end) const;
   void spell();
+  void prepareLongTerm();
 
   const Collation* collation_;
   Text term_;
   std::vector<CollationElement> elements_;
   std::optional<std::vector<Letter>> letters_;  // none when no text of known characters has them
   std::size_t rarest_ = 0;                      // index of the term's rarest letter
+  std::vector<std::size_t> restarts_;  // of a long term: behind each letter, how many of the
+                                       // letters up to it are also the term's beginning
 };
 
 }  // namespace termvik

@@ -59,7 +59,7 @@ std::optional<std::size_t> EntryTexts::firstWith(const SearchTerm& term, std::si
   while (index < end) {
     const std::size_t begin = all.letters.beginOf(index);
     const LettersView rest(all.letters.data() + begin, all.letters.beginOf(end) - begin);
-    const std::size_t hit = term.find(rest, 0);
+    const std::size_t hit = term.find(rest);
     if (hit == SearchTerm::kNotFound) return std::nullopt;
     while (all.letters.beginOf(index + 1) <= begin + hit) ++index;
     if (term.occursIn(text(index), lettersOf(all, index))) return index;

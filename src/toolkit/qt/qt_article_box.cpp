@@ -1,9 +1,69 @@
 #include "toolkit/qt/qt_article_box.h"
 
+#include <QMimeData>
+#include <QTextBlock>
+
+#include <algorithm>
+#include <vector>
+
 namespace termvik {
 
+namespace {
+
+// Qt lays a line out whole, and one of megabytes takes minutes: longer lines are shown in pieces.
+constexpr qsizetype kLongestLine = 4000;
+
+// Marks, as the state of a text block, a piece that the next block goes on with.
+constexpr int kGoesOn = 1;
+
+}  // namespace
+
+class QtArticleBox::Edit : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+  void showText(const QString& text) {
+    QString pieces;
+    std::vector<int> goingOn;  // numbers of the blocks that the next one goes on with
+    int block = 0;
+    qsizetype inLine = 0;
+    for (const QChar character : text) {
+      if (inLine == kLongestLine && character != u'\r' && character != u'\n') {
+        pieces += u'\n';
+        goingOn.push_back(block++);
+        inLine = 0;
+      }
+      pieces += character;
+      ++inLine;
+      if (character != u'\n') continue;
+      ++block;
+      inLine = 0;
+    }
+    setPlainText(pieces);
+    for (const int number : goingOn) document()->findBlockByNumber(number).setUserState(kGoesOn);
+  }
+
+ protected:
+  // Copies the selected text as it is, not as it is shown.
+  QMimeData* createMimeDataFromSelection() const override {
+    const QTextCursor selection = textCursor();
+    QString copied;
+    QTextBlock block = document()->findBlock(selection.selectionStart());
+    for (; block.isValid() && block.position() < selection.selectionEnd(); block = block.next()) {
+      const int from = std::max(0, selection.selectionStart() - block.position());
+      const int to = std::min(block.length() - 1, selection.selectionEnd() - block.position());
+      copied += QStringView(block.text()).mid(from, to - from);
+      const bool endsInside = block.position() + block.length() > selection.selectionEnd();
+      if (!endsInside && block.userState() != kGoesOn) copied += u'\n';
+    }
+    auto* mime = new QMimeData;
+    mime->setText(copied);
+    return mime;
+  }
+};
+
 QtArticleBox::QtArticleBox(QWidget* parent, const ControlDesign& design)
-    : QtControl(new QPlainTextEdit(parent), design) {
+    : QtControl(new Edit(parent), design) {
   QPlainTextEdit& edit = *widget();
   edit.setReadOnly(true);
   edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -19,7 +79,7 @@ QtArticleBox::QtArticleBox(QWidget* parent, const ControlDesign& design)
 
 void QtArticleBox::setText(TextView text) {
   text_ = text;
-  widget()->setPlainText(toQt(text));
+  static_cast<Edit*>(widget())->showText(toQt(text));
 }
 
 }  // namespace termvik

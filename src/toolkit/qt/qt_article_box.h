@@ -19,6 +19,8 @@ class QtArticleBox : public QtControl<TextBox, QPlainTextEdit> {
   void setSelLength(std::int32_t) override {}
 
  private:
+  class Edit;
+
   Text text_;
 };
 
