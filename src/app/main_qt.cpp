@@ -1,8 +1,8 @@
 // The program where Qt carries its window.
+#include <QApplication>
+
 #include "app/program.h"
 #include "toolkit/qt/qt_toolkit.h"
-
-#include <QApplication>
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);

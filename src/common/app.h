@@ -1,10 +1,10 @@
 // What the program knows of itself.
 #pragma once
 
-#include "common/text.h"
-
 #include <cstdint>
 #include <filesystem>
+
+#include "common/text.h"
 
 namespace termvik {
 

@@ -1,8 +1,8 @@
 // The program's surroundings on POSIX systems.
-#include "common/app.h"
-
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is POSIX, not C++
+
+#include "common/app.h"
 
 namespace termvik {
 

@@ -2,10 +2,10 @@
 // platform has none.
 #pragma once
 
-#include "common/text.h"
-
 #include <string>
 #include <string_view>
+
+#include "common/text.h"
 
 namespace termvik {
 

@@ -1,8 +1,8 @@
 // Windows-1252, the code page of the files on platforms that have no ANSI code page of their own.
-#include "common/codepage.h"
-
 #include <algorithm>
 #include <array>
+
+#include "common/codepage.h"
 
 namespace termvik {
 

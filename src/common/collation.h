@@ -2,11 +2,11 @@
 // and the files.
 #pragma once
 
+#include <string>
+
 #include "common/collator.h"
 #include "common/letters.h"
 #include "common/text.h"
-
-#include <string>
 
 namespace termvik {
 

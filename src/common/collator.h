@@ -4,12 +4,12 @@
 // whatever the locale, so that all platforms agree.
 #pragma once
 
-#include "common/text.h"
-
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include "common/text.h"
 
 namespace termvik {
 

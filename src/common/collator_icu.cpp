@@ -1,14 +1,14 @@
 // The judge where ICU is the platform's collation.
-#include "common/collator.h"
+#include <array>
+#include <cstdlib>
+#include <string_view>
 
 #include <unicode/ucol.h>
 #include <unicode/ucoleitr.h>
 #include <unicode/uloc.h>
 #include <unicode/uset.h>
 
-#include <array>
-#include <cstdlib>
-#include <string_view>
+#include "common/collator.h"
 
 namespace termvik {
 

@@ -1,13 +1,13 @@
 // The program's text files, as lines and as whole contents.
 #pragma once
 
-#include "common/text.h"
-
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include "common/text.h"
 
 namespace termvik {
 

@@ -7,13 +7,14 @@
 // is that of the letters' ranks, then of the letters themselves.
 #pragma once
 
-#include "common/collator.h"
-#include "common/text.h"
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <tuple>
 #include <vector>
+
+#include "common/collator.h"
+#include "common/text.h"
 
 namespace termvik {
 
@@ -59,7 +60,10 @@ class Letters {
   struct Weights {
     std::uint32_t primary = 0;
     std::vector<std::uint32_t> secondaries;
-    auto operator<=>(const Weights&) const = default;
+    bool operator==(const Weights&) const = default;
+    bool operator<(const Weights& other) const {
+      return std::tie(primary, secondaries) < std::tie(other.primary, other.secondaries);
+    }
   };
 
   static Weights weightsAt(const std::vector<CollationElement>& elements, std::size_t& next);

@@ -1,9 +1,9 @@
 // Small operations that several rooms share.
 #pragma once
 
-#include "common/text.h"
-
 #include <cstdint>
+
+#include "common/text.h"
 
 namespace termvik::Mathlib {
 

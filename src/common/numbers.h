@@ -1,10 +1,10 @@
 // Numbers as text, with the decimal separator of the user's locale.
 #pragma once
 
-#include "common/text.h"
-
 #include <cstdint>
 #include <optional>
+
+#include "common/text.h"
 
 namespace termvik {
 

@@ -4,14 +4,14 @@
 // `Hauptstraße`, and half of an `ß` is never a hit.
 #pragma once
 
-#include "common/collation.h"
-#include "common/text.h"
-
 #include <array>
 #include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
+
+#include "common/collation.h"
+#include "common/text.h"
 
 namespace termvik {
 

@@ -5,13 +5,13 @@
 // walking along the rows touch little memory even with 300,000 of them.
 #pragma once
 
-#include "common/collation.h"
-#include "common/text.h"
-
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <vector>
+
+#include "common/collation.h"
+#include "common/text.h"
 
 namespace termvik {
 

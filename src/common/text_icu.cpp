@@ -1,7 +1,7 @@
 // UTF-8 conversion where ICU is the platform's text library.
-#include "common/text.h"
-
 #include <unicode/ustring.h>
+
+#include "common/text.h"
 
 namespace termvik {
 

@@ -8,14 +8,15 @@
 // causes it is over; an event with no handler does nothing. There is one thread.
 #pragma once
 
-#include "common/sorted_rows.h"
-#include "common/text.h"
-#include "common/window_design.h"
-
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
+
+#include "common/sorted_rows.h"
+#include "common/text.h"
+#include "common/window_design.h"
 
 namespace termvik {
 
@@ -222,7 +223,7 @@ struct ScreenSize {
 // A window. It is open from its creation to its Unload and seen from Show on.
 class Window {
  public:
-  explicit Window(const WindowDesign& design) : design_(design) {}
+  explicit Window(WindowDesign design) : design_(std::move(design)) {}
   virtual ~Window() = default;
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;

@@ -4,10 +4,10 @@
 // the container's client area.
 #pragma once
 
-#include "common/text.h"
-
 #include <cstdint>
 #include <vector>
+
+#include "common/text.h"
 
 namespace termvik {
 

@@ -1,10 +1,10 @@
 // The About box: who made the program and which version it is.
 #pragma once
 
+#include <memory>
+
 #include "common/app.h"
 #include "common/toolkit.h"
-
-#include <memory>
 
 namespace termvik {
 

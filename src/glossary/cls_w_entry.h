@@ -2,13 +2,13 @@
 // and an optional comment.
 #pragma once
 
+#include <cstdint>
+#include <vector>
+
 #include "common/packed_texts.h"
 #include "common/search_term.h"
 #include "common/text.h"
 #include "glossary/entry_texts.h"
-
-#include <cstdint>
-#include <vector>
 
 namespace termvik {
 

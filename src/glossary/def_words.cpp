@@ -1,9 +1,9 @@
 #include "glossary/def_words.h"
 
+#include <utility>
+
 #include "common/codepage.h"
 #include "common/files.h"
-
-#include <utility>
 
 namespace termvik {
 
@@ -110,7 +110,7 @@ void defWords::decodeGlossary(Glossary& glossary, std::int32_t firstIndex,
                               std::int32_t& lastIndex) {
   const std::int32_t blocks = countBlocks(glossary.lines);
   if (firstIndex == 1) entries_.clear();
-  entries_.resize(static_cast<std::size_t>(firstIndex - 1 + blocks));
+  entries_.resize(static_cast<std::size_t>(firstIndex) - 1 + static_cast<std::size_t>(blocks));
   const auto lineCount = static_cast<std::size_t>(glossary.lines.upperBound());
   // A word is no longer than its line; the lines of a comment get a line end between them.
   glossary.texts.reserve(lineCount + static_cast<std::size_t>(blocks),

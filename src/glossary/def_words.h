@@ -2,14 +2,14 @@
 // entries of both in one table.
 #pragma once
 
-#include "common/collation.h"
-#include "common/text.h"
-#include "glossary/cls_w_entry.h"
-
 #include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <vector>
+
+#include "common/collation.h"
+#include "common/text.h"
+#include "glossary/cls_w_entry.h"
 
 namespace termvik {
 

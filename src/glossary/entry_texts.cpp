@@ -23,7 +23,7 @@ void EntryTexts::addComment(TextView comment) {
   addWord(comment, u'\0');
 }
 
-const EntryTexts::Folded& EntryTexts::folded() const {
+const FoldedTexts& EntryTexts::folded() const {
   if (folded_) return *folded_;
   folded_.emplace();
   folded_->letters.reserve(size(), texts_.characterCount() + size());
@@ -38,7 +38,7 @@ const EntryTexts::Folded& EntryTexts::folded() const {
   return *folded_;
 }
 
-LettersView EntryTexts::lettersOf(const Folded& folded, std::size_t index) const {
+LettersView EntryTexts::lettersOf(const FoldedTexts& folded, std::size_t index) const {
   LettersView letters = folded.letters[index];
   letters.remove_suffix(1);
   return letters;
@@ -46,7 +46,7 @@ LettersView EntryTexts::lettersOf(const Folded& folded, std::size_t index) const
 
 std::optional<std::size_t> EntryTexts::firstWith(const SearchTerm& term, std::size_t first,
                                                  std::size_t end) const {
-  const Folded& all = folded();
+  const FoldedTexts& all = folded();
   const auto unknown = std::lower_bound(all.unknown.begin(), all.unknown.end(), first);
   const bool allKnown = unknown == all.unknown.end() || *unknown >= end;
   if (!allKnown) {

@@ -2,15 +2,23 @@
 // file order, then its comment.
 #pragma once
 
-#include "common/packed_texts.h"
-#include "common/search_term.h"
-#include "common/text.h"
-
 #include <cstdint>
 #include <optional>
 #include <vector>
 
+#include "common/packed_texts.h"
+#include "common/search_term.h"
+#include "common/text.h"
+
 namespace termvik {
+
+// The letters of all texts, each text's closed by kNoLetter, so that one pass over bytes searches
+// many texts. Made at the first search behind a load.
+struct FoldedTexts {
+  PackedTexts<Letter> letters;
+  std::vector<std::size_t> unknown;  // rising: the texts that have characters without letters
+  LetterCounts counts{};
+};
 
 class EntryTexts {
  public:
@@ -39,21 +47,13 @@ class EntryTexts {
   const LetterCounts& letterCounts() const;
 
  private:
-  // The letters of all texts, each text's closed by kNoLetter, so that one pass over bytes searches
-  // many texts. Made at the first search behind a load.
-  struct Folded {
-    PackedTexts<Letter> letters;
-    std::vector<std::size_t> unknown;  // rising: the texts that have characters without letters
-    LetterCounts counts{};
-  };
-
-  const Folded& folded() const;
-  LettersView lettersOf(const Folded& folded, std::size_t index) const;
+  const FoldedTexts& folded() const;
+  LettersView lettersOf(const FoldedTexts& folded, std::size_t index) const;
 
   const Collation* collation_;
   PackedTexts<char16_t> texts_;
   std::vector<char16_t> types_;  // parallel to texts_
-  mutable std::optional<Folded> folded_;
+  mutable std::optional<FoldedTexts> folded_;
 };
 
 }  // namespace termvik

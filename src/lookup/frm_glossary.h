@@ -5,16 +5,16 @@
 // of glossary, the search mode and the search text live.
 #pragma once
 
+#include <cstdint>
+#include <memory>
+#include <vector>
+
 #include "common/app.h"
 #include "common/search_term.h"
 #include "common/text.h"
 #include "common/toolkit.h"
 #include "glossary/def_words.h"
 #include "settings/parameters.h"
-
-#include <cstdint>
-#include <memory>
-#include <vector>
 
 namespace termvik {
 

@@ -1,8 +1,8 @@
 // The search box as the keyboard front of the list: each change of its text selects the row that
 // fits best, and the arrow and page keys move the selection.
-#include "lookup/frm_glossary.h"
-
 #include <algorithm>
+
+#include "lookup/frm_glossary.h"
 
 namespace termvik {
 

@@ -1,8 +1,8 @@
 // How the main window's controls follow its size.
+#include <cmath>
+
 #include "common/mathlib.h"
 #include "lookup/frm_glossary.h"
-
-#include <cmath>
 
 namespace termvik {
 

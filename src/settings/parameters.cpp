@@ -1,12 +1,12 @@
 // The table of values and its file.
 #include "settings/parameters.h"
 
+#include <algorithm>
+
 #include "common/codepage.h"
 #include "common/files.h"
 #include "common/mathlib.h"
 #include "settings/upper_case.h"
-
-#include <algorithm>
 
 namespace termvik {
 

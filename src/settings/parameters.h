@@ -2,13 +2,13 @@
 // remember. Settings never stop the program: what fails here ends silently.
 #pragma once
 
-#include "common/app.h"
-#include "common/text.h"
-#include "common/toolkit.h"
-
 #include <array>
 #include <cstdint>
 #include <filesystem>
+
+#include "common/app.h"
+#include "common/text.h"
+#include "common/toolkit.h"
 
 namespace termvik {
 

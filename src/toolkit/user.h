@@ -2,11 +2,11 @@
 // for each toolkit, so that the same acts can be done on all of them.
 #pragma once
 
-#include "common/toolkit.h"
-
 #include <cstdint>
 #include <functional>
 #include <memory>
+
+#include "common/toolkit.h"
 
 namespace termvik {
 

@@ -24,7 +24,7 @@ std::int32_t chosen(const OptionGroup& group, std::int32_t options) {
 
 std::string memberName(const Control& control) {
   const ControlDesign& design = control.design();
-  const std::string name = toUtf8(design.name);
+  std::string name = toUtf8(design.name);
   if (design.index == ControlDesign::kNoIndex) return name;
   return name + "(" + std::to_string(design.index) + ")";
 }

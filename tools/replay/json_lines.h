@@ -1,9 +1,9 @@
 // What termvik-replay prints: one JSON object a line.
 #pragma once
 
-#include "app/program.h"
-
 #include <nlohmann/json.hpp>
+
+#include "app/program.h"
 
 namespace termvik::replay {
 

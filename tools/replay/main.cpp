@@ -3,14 +3,14 @@
 //   termvik-replay [--toolkit memory|qt] [--screen WIDTHxHEIGHT] --folder DIR [SCRIPT]
 //
 // See docs/replay.md for the script's commands and what is printed.
-#include "player.h"
-
 #include <charconv>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
 #include <string_view>
+
+#include "player.h"
 #ifdef TERMVIK_WITH_QT
 #include "toolkit/qt/qt_user.h"
 #endif

@@ -1,11 +1,11 @@
 #include "player.h"
 
-#include "json_lines.h"
-
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <map>
+
+#include "json_lines.h"
 
 namespace termvik::replay {
 

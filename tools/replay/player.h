@@ -1,9 +1,6 @@
 // Plays a script of a user's acts on the real program.
 #pragma once
 
-#include "app/program.h"
-#include "toolkit/user.h"
-
 #include <functional>
 #include <memory>
 #include <ostream>
@@ -11,6 +8,9 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "app/program.h"
+#include "toolkit/user.h"
 
 namespace termvik::replay {
 

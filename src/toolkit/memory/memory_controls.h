@@ -1,9 +1,9 @@
 // The memory toolkit's controls and window, with what a user can do to each.
 #pragma once
 
-#include "toolkit/memory/memory_toolkit.h"
-
 #include <algorithm>
+
+#include "toolkit/memory/memory_toolkit.h"
 
 namespace termvik {
 

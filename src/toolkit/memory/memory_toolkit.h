@@ -2,11 +2,11 @@
 // fuzzing and termvik-replay.
 #pragma once
 
-#include "common/toolkit.h"
-
 #include <functional>
 #include <memory>
 #include <vector>
+
+#include "common/toolkit.h"
 
 namespace termvik {
 

@@ -1,10 +1,10 @@
 #include "toolkit/qt/qt_article_box.h"
 
-#include <QMimeData>
-#include <QTextBlock>
-
 #include <algorithm>
 #include <vector>
+
+#include <QMimeData>
+#include <QTextBlock>
 
 namespace termvik {
 

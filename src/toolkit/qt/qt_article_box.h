@@ -1,9 +1,9 @@
 // A text box of several lines that the user reads.
 #pragma once
 
-#include "toolkit/qt/qt_controls.h"
-
 #include <QPlainTextEdit>
+
+#include "toolkit/qt/qt_controls.h"
 
 namespace termvik {
 

@@ -1,8 +1,7 @@
 // Controls that are one Qt widget each, without behaviour of their own.
 #pragma once
 
-#include "common/toolkit.h"
-#include "toolkit/qt/qt_text.h"
+#include <memory>
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -11,7 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <memory>
+#include "common/toolkit.h"
+#include "toolkit/qt/qt_text.h"
 
 namespace termvik {
 

@@ -1,6 +1,6 @@
 #include "toolkit/qt/qt_fonts.h"
 
-#include "toolkit/qt/qt_text.h"
+#include <algorithm>
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -8,7 +8,7 @@
 #include <QFontMetrics>
 #include <QStyle>
 
-#include <algorithm>
+#include "toolkit/qt/qt_text.h"
 
 namespace termvik {
 

@@ -1,11 +1,11 @@
 // Fonts for the controls, small enough that no caption is clipped in the place it was designed for.
 #pragma once
 
-#include "common/window_design.h"
-
 #include <QFont>
 #include <QMenuBar>
 #include <QWidget>
+
+#include "common/window_design.h"
 
 namespace termvik {
 

@@ -1,8 +1,8 @@
 #include "toolkit/qt/qt_list_box.h"
 
-#include <QStyledItemDelegate>
-
 #include <algorithm>
+
+#include <QStyledItemDelegate>
 
 namespace termvik {
 

@@ -1,10 +1,10 @@
 // The sorted list: a Qt view over the rows, without a copy of any of them.
 #pragma once
 
-#include "toolkit/qt/qt_controls.h"
-
 #include <QAbstractListModel>
 #include <QListView>
+
+#include "toolkit/qt/qt_controls.h"
 
 namespace termvik {
 

@@ -1,10 +1,10 @@
 #include "toolkit/qt/qt_search_box.h"
 
+#include <limits>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QSignalBlocker>
-
-#include <limits>
 
 namespace termvik {
 

@@ -1,9 +1,9 @@
 // A text box of one line.
 #pragma once
 
-#include "toolkit/qt/qt_controls.h"
-
 #include <QLineEdit>
+
+#include "toolkit/qt/qt_controls.h"
 
 namespace termvik {
 

@@ -1,13 +1,13 @@
 // Between the program's texts and measures and Qt's.
 #pragma once
 
-#include "common/text.h"
-#include "common/window_design.h"
+#include <cmath>
 
 #include <QRect>
 #include <QString>
 
-#include <cmath>
+#include "common/text.h"
+#include "common/window_design.h"
 
 namespace termvik {
 

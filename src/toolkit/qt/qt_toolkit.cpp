@@ -1,14 +1,14 @@
 #include "toolkit/qt/qt_toolkit.h"
 
-#include "common/app.h"
-#include "toolkit/qt/qt_text.h"
-#include "toolkit/qt/qt_window.h"
-
 #include <QApplication>
 #include <QClipboard>
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include "common/app.h"
+#include "toolkit/qt/qt_text.h"
+#include "toolkit/qt/qt_window.h"
 
 // Outside the namespace, as the macro asks; a static library's pictures are not there by
 // themselves.

@@ -1,9 +1,9 @@
 // The toolkit of Qt Widgets. Needs a QApplication.
 #pragma once
 
-#include "common/toolkit.h"
-
 #include <vector>
+
+#include "common/toolkit.h"
 
 namespace termvik {
 

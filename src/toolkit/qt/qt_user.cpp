@@ -1,10 +1,6 @@
 #include "toolkit/qt/qt_user.h"
 
-#include "toolkit/qt/qt_article_box.h"
-#include "toolkit/qt/qt_list_box.h"
-#include "toolkit/qt/qt_search_box.h"
-#include "toolkit/qt/qt_toolkit.h"
-#include "toolkit/qt/qt_window.h"
+#include <array>
 
 #include <QApplication>
 #include <QClipboard>
@@ -16,7 +12,11 @@
 #include <QTimer>
 #include <QWindow>
 
-#include <array>
+#include "toolkit/qt/qt_article_box.h"
+#include "toolkit/qt/qt_list_box.h"
+#include "toolkit/qt/qt_search_box.h"
+#include "toolkit/qt/qt_toolkit.h"
+#include "toolkit/qt/qt_window.h"
 
 namespace termvik {
 

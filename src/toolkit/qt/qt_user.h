@@ -1,9 +1,9 @@
 // A user at a Qt window: real key and mouse events on real widgets.
 #pragma once
 
-#include "toolkit/user.h"
-
 #include <memory>
+
+#include "toolkit/user.h"
 
 namespace termvik {
 

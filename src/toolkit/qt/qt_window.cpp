@@ -1,12 +1,5 @@
 #include "toolkit/qt/qt_window.h"
 
-#include "toolkit/qt/qt_article_box.h"
-#include "toolkit/qt/qt_fonts.h"
-#include "toolkit/qt/qt_list_box.h"
-#include "toolkit/qt/qt_search_box.h"
-#include "toolkit/qt/qt_text.h"
-#include "toolkit/qt/qt_toolkit.h"
-
 #include <QAction>
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -15,6 +8,13 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QWindow>
+
+#include "toolkit/qt/qt_article_box.h"
+#include "toolkit/qt/qt_fonts.h"
+#include "toolkit/qt/qt_list_box.h"
+#include "toolkit/qt/qt_search_box.h"
+#include "toolkit/qt/qt_text.h"
+#include "toolkit/qt/qt_toolkit.h"
 
 namespace termvik {
 

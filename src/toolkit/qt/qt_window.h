@@ -1,13 +1,13 @@
 // A window of the program as a Qt main window.
 #pragma once
 
-#include "common/toolkit.h"
+#include <memory>
 
 #include <QButtonGroup>
 #include <QEventLoop>
 #include <QMainWindow>
 
-#include <memory>
+#include "common/toolkit.h"
 
 namespace termvik {
 
