@@ -82,7 +82,7 @@ class MemoryCommandButton : public Unseen<CommandButton> {
 class MemoryWindow : public Window {
  public:
   MemoryWindow(MemoryToolkit& toolkit, const WindowDesign& design);
-  ~MemoryWindow() override { Unload(); }
+  ~MemoryWindow() override { MemoryWindow::Unload(); }
 
   Place outerPlace() const override { return place_; }
   void setOuterPlace(const Place& place) override;
