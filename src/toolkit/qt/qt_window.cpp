@@ -1,7 +1,9 @@
 #include "toolkit/qt/qt_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QProxyStyle>
 #include <QScreen>
@@ -66,6 +68,15 @@ class QtWindow::MainWindow : public QMainWindow {
     if (event->type() != QEvent::ActivationChange) return;
     const bool wasActive = std::exchange(active_, isActiveWindow());
     if (wasActive && !active_ && window_.open_ && window_.Deactivate) window_.Deactivate();
+  }
+
+  // Sees what comes to the menu bar.
+  bool eventFilter(QObject* object, QEvent* event) override {
+    const bool isEscape = event->type() == QEvent::KeyPress &&
+                          static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (!isEscape) return QMainWindow::eventFilter(object, event);
+    window_.leaveMenuBar();
+    return true;
   }
 
   // Presses that no control has taken come here.
@@ -186,7 +197,10 @@ void QtWindow::addMenu(const QFont& captionFont) {
     QAction* action = bar.addAction(toQt(design.caption));
     action->setObjectName(toQt(design.name));
     action->setEnabled(design.enabled);
-    QObject::connect(action, &QAction::triggered, action, [&item] { item.userChooses(); });
+    QObject::connect(action, &QAction::triggered, action, [this, &item] {
+      leaveMenuBar();
+      item.userChooses();
+    });
     actions_.emplace_back(&item, action);
   }
   fitMenuBar(bar, captionFont, toPixels(design().clientWidth));
@@ -196,7 +210,10 @@ void QtWindow::addKeys() {
   const auto onKey = [this](Qt::Key key, auto act) {
     QObject::connect(new QShortcut(key, widget_.get()), &QShortcut::activated, widget_.get(), act);
   };
-  if (!actions_.empty()) onKey(Qt::Key_F10, [this] { focusMenuBar(); });
+  if (!actions_.empty()) {
+    onKey(Qt::Key_F10, [this] { focusMenuBar(); });
+    widget_->menuBar()->installEventFilter(widget_.get());
+  }
   for (const auto& control : controls()) {
     auto* button = qobject_cast<QPushButton*>(qtWidget(*control));
     if (button == nullptr) continue;
@@ -209,8 +226,16 @@ void QtWindow::addKeys() {
 }
 
 void QtWindow::focusMenuBar() {
-  widget_->menuBar()->setFocus(Qt::MenuBarFocusReason);
-  widget_->menuBar()->setActiveAction(actions_.front().second);
+  QMenuBar& bar = *widget_->menuBar();
+  if (!bar.hasFocus()) focusBehindMenu_ = QApplication::focusWidget();
+  bar.setFocus(Qt::MenuBarFocusReason);
+  bar.setActiveAction(actions_.front().second);
+}
+
+// The focus goes back to where it was before F10.
+void QtWindow::leaveMenuBar() {
+  widget_->menuBar()->setActiveAction(nullptr);
+  if (widget_->menuBar()->hasFocus() && focusBehindMenu_) focusBehindMenu_->setFocus();
 }
 
 QAction* QtWindow::action(const MenuItem& item) const {

@@ -6,6 +6,7 @@
 #include <QButtonGroup>
 #include <QEventLoop>
 #include <QMainWindow>
+#include <QPointer>
 
 #include "common/toolkit.h"
 
@@ -42,6 +43,7 @@ class QtWindow : public Window {
   void addMenu(const QFont& captionFont);
   void addKeys();
   void focusMenuBar();
+  void leaveMenuBar();
   void placeWidget();
   QRect outerPixels() const;
   void learnFrame();
@@ -53,6 +55,7 @@ class QtWindow : public Window {
   std::unique_ptr<MainWindow> widget_;
   QEventLoop modalLoop_;
   std::vector<std::pair<const MenuItem*, QAction*>> actions_;
+  QPointer<QWidget> focusBehindMenu_;
 
   Place outer_;     // in force, as the program knows it
   QRect placed_;    // the outer rectangle in pixels that outer_ stands for
