@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <limits>
 #include <map>
 
 #include "json_lines.h"
@@ -38,7 +40,7 @@ template <class Number>
 Number numberOf(std::string_view word) {
   Number number{};
   const auto [stop, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (error != std::errc() || stop != word.data() + word.size()) {
+  if (error != std::errc() || stop != word.data() + word.size() || !std::isfinite(number)) {
     throw ScriptError(quoted(word) + " is not a number for this place");
   }
   return number;
@@ -46,7 +48,7 @@ Number numberOf(std::string_view word) {
 
 std::int32_t indexBelow(std::string_view word, std::int32_t limit) {
   const auto index = numberOf<std::int32_t>(word);
-  if (index < 0 || index >= limit) throw ScriptError("there is no number " + std::string(word));
+  if (index < 0 || index >= limit) throw ScriptError(quoted(word) + " is out of range");
   return index;
 }
 
