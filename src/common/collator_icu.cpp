@@ -55,9 +55,7 @@ UCollator* openCollator(const std::string& name) {
   return U_SUCCESS(error) ? tailored : nullptr;
 }
 
-std::int32_t size32(TextView text) {
-  return static_cast<std::int32_t>(text.size());
-}
+std::int32_t size32(TextView text) { return static_cast<std::int32_t>(text.size()); }
 
 }  // namespace
 
@@ -76,9 +74,7 @@ Collator::Collator(const std::string& localeName) : platform_(std::make_unique<P
   if (platform_->collator == nullptr) std::abort();  // ICU without its data: nothing can be sorted
 }
 
-Collator::~Collator() {
-  ucol_close(platform_->collator);
-}
+Collator::~Collator() { ucol_close(platform_->collator); }
 
 int Collator::compare(TextView a, TextView b) const {
   return ucol_strcoll(platform_->collator, a.data(), size32(a), b.data(), size32(b));

@@ -3,9 +3,7 @@
 
 namespace termvik {
 
-Text pathText(const std::filesystem::path& path) {
-  return fromUtf8(path.native());
-}
+Text pathText(const std::filesystem::path& path) { return fromUtf8(path.native()); }
 
 File openToRead(const std::filesystem::path& fileName) {
   return File(std::fopen(fileName.c_str(), "rb"));

@@ -13,17 +13,11 @@ std::size_t indexOf(TextView text, std::int64_t pos) {
   return std::min(static_cast<std::size_t>(pos - 1), text.size());
 }
 
-std::size_t orEnd(std::size_t found, TextView text) {
-  return std::min(found, text.size());
-}
+std::size_t orEnd(std::size_t found, TextView text) { return std::min(found, text.size()); }
 
-std::int64_t positionOf(std::size_t index) {
-  return static_cast<std::int64_t>(index) + 1;
-}
+std::int64_t positionOf(std::size_t index) { return static_cast<std::int64_t>(index) + 1; }
 
-bool isUsedUp(TextView text, std::int64_t pos) {
-  return indexOf(text, pos) == text.size();
-}
+bool isUsedUp(TextView text, std::int64_t pos) { return indexOf(text, pos) == text.size(); }
 
 }  // namespace
 

@@ -23,9 +23,7 @@ const Char* TextArena<Char>::add(std::basic_string_view<Char> text) {
 
 SortedRows::SortedRows(const Collation& collation) : collation_(&collation) {}
 
-void SortedRows::clear() {
-  *this = SortedRows(*collation_);
-}
+void SortedRows::clear() { *this = SortedRows(*collation_); }
 
 std::int32_t SortedRows::add(TextView text) {
   const Entry entry = makeEntry(text);
@@ -156,13 +154,9 @@ const SortedRows::Entry& SortedRows::entryAt(std::int32_t row) const {
   return blocks_[place.block]->entries[place.index];
 }
 
-TextView SortedRows::text(std::int32_t row) const {
-  return textOf(entryAt(row));
-}
+TextView SortedRows::text(std::int32_t row) const { return textOf(entryAt(row)); }
 
-std::int32_t SortedRows::itemData(std::int32_t row) const {
-  return rowOf(entryAt(row)).itemData;
-}
+std::int32_t SortedRows::itemData(std::int32_t row) const { return rowOf(entryAt(row)).itemData; }
 
 void SortedRows::setItemData(std::int32_t row, std::int32_t itemData) {
   rows_[entryAt(row).id & kId].itemData = itemData;

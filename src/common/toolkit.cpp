@@ -15,13 +15,9 @@ void raise(const std::function<void(Arguments...)>& event, Arguments... argument
 
 }  // namespace
 
-void TextBox::userEdits() const {
-  raise(Change);
-}
+void TextBox::userEdits() const { raise(Change); }
 
-void TextBox::userClicks() const {
-  raise(Click);
-}
+void TextBox::userClicks() const { raise(Click); }
 
 bool TextBox::userPressesKey(std::int16_t keyCode) const {
   if (KeyDown) KeyDown(keyCode);
@@ -70,9 +66,7 @@ OptionButton::OptionButton(const ControlDesign& design, OptionGroup& group)
   group.buttons_[index] = this;
 }
 
-void OptionButton::userChooses() {
-  group_.setValue(design().index, true);
-}
+void OptionButton::userChooses() { group_.setValue(design().index, true); }
 
 bool OptionGroup::Value(std::int32_t index) const {
   return buttons_.at(static_cast<std::size_t>(index))->on_;

@@ -4,9 +4,7 @@
 
 namespace termvik {
 
-void EntryTexts::clear() {
-  *this = EntryTexts(*collation_);
-}
+void EntryTexts::clear() { *this = EntryTexts(*collation_); }
 
 void EntryTexts::reserve(std::size_t texts, std::size_t characters) {
   texts_.reserve(texts, characters);
@@ -19,9 +17,7 @@ void EntryTexts::addWord(TextView word, char16_t wordType) {
   folded_.reset();
 }
 
-void EntryTexts::addComment(TextView comment) {
-  addWord(comment, u'\0');
-}
+void EntryTexts::addComment(TextView comment) { addWord(comment, u'\0'); }
 
 const FoldedTexts& EntryTexts::folded() const {
   if (folded_) return *folded_;
@@ -68,8 +64,6 @@ std::optional<std::size_t> EntryTexts::firstWith(const SearchTerm& term, std::si
   return std::nullopt;
 }
 
-const LetterCounts& EntryTexts::letterCounts() const {
-  return folded().counts;
-}
+const LetterCounts& EntryTexts::letterCounts() const { return folded().counts; }
 
 }  // namespace termvik

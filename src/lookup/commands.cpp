@@ -14,22 +14,12 @@ void frmGlossary::optSearch_Click(std::int16_t Index) {
   }
 }
 
-void frmGlossary::chkShowDoublet_Click() {
-  languageChanged();
-}
+void frmGlossary::chkShowDoublet_Click() { languageChanged(); }
 
-void frmGlossary::mnuEnglish_Click() {
-  changeLanguage(u"E");
-}
-void frmGlossary::mnuSwedish_Click() {
-  changeLanguage(u"S");
-}
-void frmGlossary::mnuGerman_Click() {
-  changeLanguage(u"D");
-}
-void frmGlossary::mnuFrance_Click() {
-  changeLanguage(u"F");
-}
+void frmGlossary::mnuEnglish_Click() { changeLanguage(u"E"); }
+void frmGlossary::mnuSwedish_Click() { changeLanguage(u"S"); }
+void frmGlossary::mnuGerman_Click() { changeLanguage(u"D"); }
+void frmGlossary::mnuFrance_Click() { changeLanguage(u"F"); }
 
 void frmGlossary::changeLanguage(TextView wordType) {
   words_.gWordType = wordType;

@@ -23,9 +23,7 @@ void frmGlossary::markDoublets() {
   }
 }
 
-void frmGlossary::mnuDoubletList_Click() {
-  copyDoubletsToClipboard();
-}
+void frmGlossary::mnuDoubletList_Click() { copyDoubletsToClipboard(); }
 
 void frmGlossary::copyDoubletsToClipboard() {
   Text report = u"DUBBLETTER";

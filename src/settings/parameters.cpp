@@ -12,13 +12,9 @@ namespace termvik {
 
 namespace {
 
-bool isSlot(std::int32_t index) {
-  return index >= 1 && index <= parameters::paramCount;
-}
+bool isSlot(std::int32_t index) { return index >= 1 && index <= parameters::paramCount; }
 
-std::size_t at(std::int32_t index) {
-  return static_cast<std::size_t>(index) - 1;
-}
+std::size_t at(std::int32_t index) { return static_cast<std::size_t>(index) - 1; }
 
 }  // namespace
 

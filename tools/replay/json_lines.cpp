@@ -31,9 +31,7 @@ std::string memberName(const Control& control) {
 
 }  // namespace
 
-Json textJson(TextView text) {
-  return toUtf8(text);
-}
+Json textJson(TextView text) { return toUtf8(text); }
 
 Json measureJson(float measure) {
   constexpr float kMostWhole = 1e9F;

@@ -17,9 +17,7 @@ constexpr std::array<std::string_view, 9> kMenuItems = {
     "mnuEnglish", "mnuSwedish",           "mnuGerman",         "mnuFrance",     "mnuAbout",
     "mnuReRead",  "mnuShowGlossVersions", "mnuCreateWordList", "mnuDoubletList"};
 
-std::string quoted(std::string_view word) {
-  return "'" + std::string(word) + "'";
-}
+std::string quoted(std::string_view word) { return "'" + std::string(word) + "'"; }
 
 // The text of a STRING: `\t` is a tab and `\\` a backslash.
 Text stringText(std::string_view string) {

@@ -125,9 +125,7 @@ void MemoryWindow::ShowModal() {
   Unload();
 }
 
-void MemoryWindow::Unload() {
-  std::erase(toolkit_.open_, this);
-}
+void MemoryWindow::Unload() { std::erase(toolkit_.open_, this); }
 
 void MemoryWindow::userCloses() {
   if (QueryUnload) QueryUnload();

@@ -95,9 +95,7 @@ void QtListBox::finishChange() {
   if (ListIndex() >= 0) selectQuietly();
 }
 
-void QtListBox::showRowText(std::int32_t row) {
-  model_->showRowText(row);
-}
+void QtListBox::showRowText(std::int32_t row) { model_->showRowText(row); }
 
 void QtListBox::selectQuietly() {
   selecting_ = true;

@@ -75,8 +75,6 @@ void QtSearchBox::setSelStart(std::int32_t start) {
   widget()->setCursorPosition(start);
 }
 
-void QtSearchBox::setSelLength(std::int32_t length) {
-  widget()->setSelection(SelStart(), length);
-}
+void QtSearchBox::setSelLength(std::int32_t length) { widget()->setSelection(SelStart(), length); }
 
 }  // namespace termvik

@@ -15,9 +15,7 @@ inline QString toQt(TextView text) {
   return QStringView(text.data(), static_cast<qsizetype>(text.size())).toString();
 }
 
-inline Text fromQt(const QString& text) {
-  return text.toStdU16String();
-}
+inline Text fromQt(const QString& text) { return text.toStdU16String(); }
 
 inline Qt::Alignment qtAlignment(Alignment alignment) {
   switch (alignment) {
@@ -33,13 +31,9 @@ inline Qt::Alignment qtAlignment(Alignment alignment) {
 // A logical pixel is 15 twips on every screen; Qt does the rest for high resolutions.
 inline constexpr float kTwipsPerPixel = 15;
 
-inline int toPixels(float twips) {
-  return static_cast<int>(std::lround(twips / kTwipsPerPixel));
-}
+inline int toPixels(float twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
 
-inline float toTwips(int pixels) {
-  return static_cast<float>(pixels) * kTwipsPerPixel;
-}
+inline float toTwips(int pixels) { return static_cast<float>(pixels) * kTwipsPerPixel; }
 
 // Right and bottom edges are rounded for themselves, so that controls that share an edge in twips
 // share it in pixels.

@@ -12,9 +12,7 @@
 
 // Outside the namespace, as the macro asks; a static library's pictures are not there by
 // themselves.
-static void initPictures() {
-  Q_INIT_RESOURCE(pictures);
-}
+static void initPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace termvik {
 

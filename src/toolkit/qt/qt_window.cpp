@@ -110,13 +110,9 @@ QtWindow::QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowD
   toolkit_.opened(*this);
 }
 
-QtWindow::~QtWindow() {
-  Unload();
-}
+QtWindow::~QtWindow() { QtWindow::Unload(); }
 
-QMainWindow& QtWindow::widget() {
-  return *widget_;
-}
+QMainWindow& QtWindow::widget() { return *widget_; }
 
 void QtWindow::addControls(const Collation& collation) {
   const QFont font = captionFont(design());
@@ -279,9 +275,7 @@ void QtWindow::placeWidget() {
 
 // Reckoned from the frame as it is now: QWidget::frameGeometry keeps the one it was first asked
 // for.
-QRect QtWindow::outerPixels() const {
-  return widget_->geometry().marginsAdded(frame_);
-}
+QRect QtWindow::outerPixels() const { return widget_->geometry().marginsAdded(frame_); }
 
 // The frame is known only some time after the window is seen; only then can the outer size that the
 // program has set be kept.
@@ -324,9 +318,7 @@ WindowState QtWindow::State() const {
   return states.testFlag(Qt::WindowMaximized) ? WindowState::Maximised : WindowState::Normal;
 }
 
-void QtWindow::maximise() {
-  widget_->setWindowState(widget_->windowState() | Qt::WindowMaximized);
-}
+void QtWindow::maximise() { widget_->setWindowState(widget_->windowState() | Qt::WindowMaximized); }
 
 ScreenSize QtWindow::Screen() const {
   const QSize size = widget_->screen()->size();
