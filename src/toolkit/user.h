@@ -42,6 +42,9 @@ class User {
   virtual void restore(Window& window) = 0;
   virtual void close(Window& window) = 0;
 
+  // Waits until the window system has done what the program has asked it to do.
+  virtual void settle() {}
+
   // What the program shows; the user answers each message and each modal box with OK afterwards.
   std::function<void(TextView prompt, TextView title)> seesMessage;
   std::function<void(Window& box)> seesModalBox;

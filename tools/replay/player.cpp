@@ -161,6 +161,7 @@ void Player::start() {
   if (program_) throw ScriptError("'start' while the program runs");
   program_ = std::make_unique<Program>(user_.toolkit(), collation_, app_);
   program_->start();
+  user_.settle();
 }
 
 void Player::close() {

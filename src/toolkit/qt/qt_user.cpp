@@ -160,6 +160,8 @@ class QtUser : public QObject, public User {
     settle();
   }
 
+  void settle() override { QCoreApplication::processEvents(); }
+
  protected:
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::Show && object->isWidgetType()) {
@@ -174,9 +176,7 @@ class QtUser : public QObject, public User {
  private:
   static QLineEdit& editOf(TextBox& box) { return *dynamic_cast<QtSearchBox&>(box).widget(); }
 
-  static void settle() { QCoreApplication::processEvents(); }
-
-  static void setState(Window& window, Qt::WindowState state, bool on) {
+  void setState(Window& window, Qt::WindowState state, bool on) {
     QMainWindow& widget = dynamic_cast<QtWindow&>(window).widget();
     widget.setWindowState(widget.windowState().setFlag(state, on));
     settle();

@@ -328,6 +328,10 @@ ScreenSize QtWindow::Screen() const {
 void QtWindow::Show() {
   if (Resize) Resize();
   widget_->show();
+  if (!wantsPosition_) {  // the system has chosen it
+    outer_.left = toTwips(outerPixels().left());
+    outer_.top = toTwips(outerPixels().top());
+  }
   readPlace();
   watchFrame();
 }
