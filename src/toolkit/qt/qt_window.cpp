@@ -329,8 +329,9 @@ void QtWindow::Show() {
   if (Resize) Resize();
   widget_->show();
   if (!wantsPosition_) {  // the system has chosen it
-    outer_.left = toTwips(outerPixels().left());
-    outer_.top = toTwips(outerPixels().top());
+    placed_.moveTopLeft(outerPixels().topLeft());
+    outer_.left = toTwips(placed_.left());
+    outer_.top = toTwips(placed_.top());
   }
   readPlace();
   watchFrame();
