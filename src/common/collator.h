@@ -40,8 +40,9 @@ class Collator {
   // the front, then all secondary weights from the front.
   bool comparesByElements() const;
 
-  // The characters that can change their elements because of a character before them.
-  Text contextCharacters() const;
+  // Those of `characters` that can change their elements because of another of `characters` before
+  // them.
+  Text contextCharacters(TextView characters) const;
 
  private:
   struct Platform;

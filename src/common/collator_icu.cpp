@@ -114,7 +114,7 @@ bool Collator::comparesByElements() const {
          platform_->attribute(UCOL_NUMERIC_COLLATION) == UCOL_OFF;
 }
 
-Text Collator::contextCharacters() const {
+Text Collator::contextCharacters(TextView characters) const {
   Text result;
   UErrorCode error = U_ZERO_ERROR;
   USet* contractions = uset_openEmpty();
@@ -127,7 +127,9 @@ Text Collator::contextCharacters() const {
     const std::int32_t length =
         uset_getItem(contractions, i, &start, &end, sequence.data(), sequence.size(), &itemError);
     if (length < 2 || U_FAILURE(itemError)) continue;  // a plain range of characters
-    result.append(sequence.data() + 1, static_cast<std::size_t>(length) - 1);
+    const TextView joined(sequence.data(), static_cast<std::size_t>(length));
+    if (joined.find_first_not_of(characters) != TextView::npos) continue;
+    result.append(joined.substr(1));
   }
   uset_close(contractions);
   return result;

@@ -16,7 +16,7 @@ constexpr std::size_t kMostLetters = std::numeric_limits<Letter>::max();
 
 Letters::Letters(const Collator& collator, TextView characters) : table_(kCharacterCount) {
   if (!collator.comparesByElements()) return;
-  const Text context = collator.contextCharacters();
+  const Text context = collator.contextCharacters(characters);
   std::vector<std::pair<char16_t, std::vector<Weights>>> spelled;
   std::set<Weights> all;
   for (const char16_t character : characters) {

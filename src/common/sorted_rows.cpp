@@ -32,6 +32,18 @@ std::int32_t SortedRows::add(TextView text) {
   return rankOf(place);
 }
 
+SortedRows::Head SortedRows::makeHead(const std::uint8_t* ranks, std::size_t count) {
+  Head head;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (i < 8) {
+      head.high |= std::uint64_t{ranks[i]} << (8 * (7 - i));
+    } else {
+      head.low |= std::uint32_t{ranks[i]} << (8 * (kHead - 1 - i));
+    }
+  }
+  return head;
+}
+
 SortedRows::Entry SortedRows::makeEntry(TextView text) {
   Entry entry;
   entry.id = static_cast<std::uint32_t>(rows_.size());
@@ -53,8 +65,9 @@ void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
     scratchKey_.push_back(letters.rank(letter));
     plain = plain && letters.isPlain(letter);
   }
-  const std::size_t head = std::min(kHead, scratchKey_.size());
-  std::copy_n(scratchKey_.begin(), head, entry.head.begin());
+  const Head head = makeHead(scratchKey_.data(), std::min(kHead, scratchKey_.size()));
+  entry.headHigh = head.high;
+  entry.headLow = head.low;
   scratchKey_.push_back(0);
   if (!plain) scratchKey_.insert(scratchKey_.end(), scratch_.begin(), scratch_.end());
   row.key = keys_.add({scratchKey_.data(), scratchKey_.size()});
@@ -83,32 +96,33 @@ int SortedRows::compare(const Entry& a, const Entry& b) const {
   return std::strcmp(keyA + letters, keyB + letters);
 }
 
+// Heads decide where both rows have one and they differ.
+bool SortedRows::isBefore(const Entry& a, const Entry& b) const {
+  return headsDecide(a, b) ? a.head().isBefore(b.head()) : compare(a, b) < 0;
+}
+
 // Behind all rows that are not greater.
 SortedRows::Place SortedRows::insert(const Entry& entry) {
-  const auto isBefore = [this](const Entry& a, const Entry& b) {
-    const int heads = std::memcmp(a.head.data(), b.head.data(), kHead);
-    const bool bothKeyed = a.head[0] != 0 && b.head[0] != 0;
-    return heads != 0 && bothKeyed ? heads < 0 : compare(a, b) < 0;
-  };
+  const auto before = [this](const Entry& a, const Entry& b) { return isBefore(a, b); };
   if (blocks_.empty()) {
     blocks_.push_back(std::make_unique<Block>());
+    firsts_.push_back(entry);
     rebuildSums();
   }
-  const auto after = std::upper_bound(
-      blocks_.begin() + 1, blocks_.end(), entry,
-      [&](const Entry& e, const auto& block) { return isBefore(e, block->entries[0]); });
-  auto index = static_cast<std::size_t>(after - blocks_.begin()) - 1;
+  const auto after = std::upper_bound(firsts_.begin() + 1, firsts_.end(), entry, before);
+  auto index = static_cast<std::size_t>(after - firsts_.begin()) - 1;
   if (blocks_[index]->count == kBlockRows) {
     splitBlock(index);
-    if (!isBefore(entry, blocks_[index + 1]->entries[0])) ++index;
+    if (!isBefore(entry, firsts_[index + 1])) ++index;
   }
   Block& block = *blocks_[index];
   Entry* const begin = block.entries.data();
   Entry* const end = begin + block.count;
-  Entry* const at = std::upper_bound(begin, end, entry, isBefore);
+  Entry* const at = std::upper_bound(begin, end, entry, before);
   std::copy_backward(at, end, end + 1);
   *at = entry;
   ++block.count;
+  firsts_[index] = *begin;
   for (std::size_t i = index + 1; i <= blocks_.size(); i += i & (~i + 1)) ++sums_[i];
   return {index, static_cast<std::size_t>(at - begin)};
 }
@@ -119,6 +133,7 @@ void SortedRows::splitBlock(std::size_t block) {
   upper->count = kBlockRows / 2;
   full.count = kBlockRows - upper->count;
   std::copy_n(full.entries.begin() + full.count, upper->count, upper->entries.begin());
+  firsts_.insert(firsts_.begin() + static_cast<std::ptrdiff_t>(block) + 1, upper->entries[0]);
   blocks_.insert(blocks_.begin() + static_cast<std::ptrdiff_t>(block) + 1, std::move(upper));
   rebuildSums();
 }
@@ -173,36 +188,49 @@ void SortedRows::setText(std::int32_t row, TextView text) {
   rows_[id].itemData = itemData;
   renewed.id = (renewed.id & ~kId) | id;
   entry = renewed;
+  if (place.index == 0) firsts_[place.block] = renewed;
 }
 
 SortedRows::Prefix SortedRows::makePrefix(TextView text) const {
   Prefix prefix{.text = text};
+  constexpr std::array<std::uint8_t, kHead> kAllRanks = {255, 255, 255, 255, 255, 255,
+                                                         255, 255, 255, 255, 255, 255};
+  if (text.size() <= kHead) prefix.wholeMask = makeHead(kAllRanks.data(), text.size());
   const Letters& table = collation_->letters();
-  std::size_t ranks = 0;
-  prefix.plain = text.size() <= kHead;
+  std::array<std::uint8_t, kHead> ranks{};
+  std::size_t count = 0;
+  bool plain = text.size() <= kHead;
   for (const char16_t character : text) {
     const CharacterLetters& letters = table.of(character);
-    if (!letters.known()) {  // it can change what stands ahead of it: no head decides
-      prefix.plain = false;
-      return prefix;
-    }
-    if (ranks == kHead) break;
-    prefix.plain = prefix.plain && letters.count == 1 && table.isPlain(letters.letters[0]);
-    for (std::size_t i = 0; i < letters.count && ranks < kHead; ++i) {
-      prefix.head[ranks++] = table.rank(letters.letters[i]);
+    if (!letters.known()) return prefix;  // it can change what stands ahead of it
+    if (count == kHead) break;
+    plain = plain && letters.count == 1 && table.isPlain(letters.letters[0]);
+    for (std::size_t i = 0; i < letters.count && count < kHead; ++i) {
+      ranks[count++] = table.rank(letters.letters[i]);
     }
   }
-  prefix.compared = std::min(ranks, text.size());
+  const std::size_t compared = std::min(count, text.size());
+  prefix.head = makeHead(ranks.data(), compared);
+  prefix.mask = makeHead(kAllRanks.data(), compared);
+  prefix.plain = plain;
   return prefix;
 }
 
 // The order of the row's first prefix.text.size() characters and the prefix.
-int SortedRows::comparePrefix(const Entry& entry, const Prefix& prefix) const {
+int SortedRows::comparePrefix(const Entry& entry, const Prefix& prefix, Verdict& last) const {
   if ((entry.id & kDense) != 0) {
-    const int heads = std::memcmp(entry.head.data(), prefix.head.data(), prefix.compared);
-    if (heads != 0) return heads;
-    if (prefix.plain && (entry.id & kPlain) != 0) return 0;
+    const Head head = entry.head().masked(prefix.mask);
+    if (head != prefix.head) return head.isBefore(prefix.head) ? -1 : 1;
   }
+  if ((entry.id & kPlain) == 0) return askCollator(entry, prefix);
+  if (prefix.plain) return 0;
+  if (prefix.wholeMask == Head{}) return askCollator(entry, prefix);
+  const Head whole = entry.head().masked(prefix.wholeMask);
+  if (!last.given || whole != last.head) last = {whole, askCollator(entry, prefix), true};
+  return last.order;
+}
+
+int SortedRows::askCollator(const Entry& entry, const Prefix& prefix) const {
   return collation_->textCompare(textOf(entry).substr(0, prefix.text.size()), prefix.text);
 }
 
@@ -224,9 +252,10 @@ std::int32_t SortedRows::walk(std::int32_t from, Stop stop) const {
 
 SortedRows::Walk SortedRows::findPrefix(TextView prefix, std::int32_t from) const {
   const Prefix wanted = makePrefix(prefix);
+  Verdict last;
   int order = -1;
   const std::int32_t row = walk(from, [&](const Entry& entry) {
-    order = comparePrefix(entry, wanted);
+    order = comparePrefix(entry, wanted, last);
     return order >= 0;
   });
   return {row, order == 0};
@@ -234,12 +263,18 @@ SortedRows::Walk SortedRows::findPrefix(TextView prefix, std::int32_t from) cons
 
 std::int32_t SortedRows::endOfRun(TextView prefix, std::int32_t from) const {
   const Prefix wanted = makePrefix(prefix);
-  return walk(from + 1, [&](const Entry& entry) { return comparePrefix(entry, wanted) != 0; }) - 1;
+  Verdict last;
+  const auto leavesRun = [&](const Entry& entry) {
+    return comparePrefix(entry, wanted, last) != 0;
+  };
+  return walk(from + 1, leavesRun) - 1;
 }
 
 std::int32_t SortedRows::behindEqual(std::int32_t row) const {
   const Entry first = entryAt(row);
-  return walk(row + 1, [&](const Entry& entry) { return compare(first, entry) != 0; });
+  return walk(row + 1, [&](const Entry& entry) {
+    return headsDecide(first, entry) || compare(first, entry) != 0;
+  });
 }
 
 }  // namespace termvik

@@ -70,7 +70,17 @@ class SortedRows {
   static constexpr std::size_t kHead = 12;
   static constexpr std::size_t kBlockRows = 256;
 
-  using Ranks = std::array<std::uint8_t, kHead>;
+  // The first ranks of a text, filled up with 0, as numbers that compare like them.
+  struct Head {
+    std::uint64_t high = 0;  // eight ranks
+    std::uint32_t low = 0;   // four ranks
+
+    bool operator==(const Head&) const = default;
+    Head masked(const Head& mask) const { return {high & mask.high, low & mask.low}; }
+    bool isBefore(const Head& other) const {
+      return high != other.high ? high < other.high : low < other.low;
+    }
+  };
 
   struct Row {
     const char16_t* text = nullptr;
@@ -81,8 +91,11 @@ class SortedRows {
 
   // What a walk sees of a row without going to the row itself.
   struct Entry {
-    Ranks head{};          // the first ranks of the key, filled up with 0
+    std::uint64_t headHigh = 0;
+    std::uint32_t headLow = 0;
     std::uint32_t id = 0;  // index into rows_, with the two marks below
+
+    Head head() const { return {headHigh, headLow}; }
   };
   static constexpr std::uint32_t kId = (1U << 30U) - 1;
   static constexpr std::uint32_t kDense = 1U << 30U;  // every character has a letter: the head of a
@@ -102,11 +115,22 @@ class SortedRows {
   // A prefix as the walk compares it.
   struct Prefix {
     TextView text;
-    Ranks head{};
-    std::size_t compared = 0;  // how many ranks of a dense row's head can decide
-    bool plain = false;        // a plain row whose head agrees fits
+    Head head{};         // cut to the ranks that can decide about a dense row
+    Head mask{};         // these ranks of a head
+    bool plain = false;  // a plain row whose head agrees fits
+    Head wholeMask{};    // the ranks that are all of a plain row's beginning; none when a head is
+                         // too short for that
   };
 
+  // What the collator has said of the beginning of the last plain row: it is the same for the next
+  // one with the same ranks. Keeps a walk with an accent or a foreign letter as fast as others.
+  struct Verdict {
+    Head head{};
+    int order = 0;
+    bool given = false;
+  };
+
+  static Head makeHead(const std::uint8_t* ranks, std::size_t count);
   Entry makeEntry(TextView text);
   void makeKey(TextView text, Row& row, Entry& entry);
   int compare(const Entry& a, const Entry& b) const;
@@ -114,18 +138,24 @@ class SortedRows {
   TextView textOf(const Entry& entry) const;
   Place placeOf(std::int32_t row) const;
   const Entry& entryAt(std::int32_t row) const;
+  static bool headsDecide(const Entry& a, const Entry& b) {
+    return a.headHigh != 0 && b.headHigh != 0 && a.head() != b.head();
+  }
+  bool isBefore(const Entry& a, const Entry& b) const;
   Place insert(const Entry& entry);
   void splitBlock(std::size_t block);
   std::int32_t rankOf(const Place& place) const;
   void rebuildSums();
   Prefix makePrefix(TextView text) const;
-  int comparePrefix(const Entry& entry, const Prefix& prefix) const;
+  int comparePrefix(const Entry& entry, const Prefix& prefix, Verdict& last) const;
+  int askCollator(const Entry& entry, const Prefix& prefix) const;
   template <class Stop>
   std::int32_t walk(std::int32_t from, Stop stop) const;
 
   const Collation* collation_;
   std::vector<Row> rows_;  // in the order in which they were added
   std::vector<std::unique_ptr<Block>> blocks_;
+  std::vector<Entry> firsts_;       // the first entry of each block
   std::vector<std::int32_t> sums_;  // Fenwick tree over the blocks' counts
   std::int32_t count_ = 0;
   TextArena<char16_t> texts_;
