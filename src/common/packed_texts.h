@@ -2,6 +2,7 @@
 // in order, and a text costs its characters and four bytes.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -47,6 +48,22 @@ class PackedTexts {
 
   // Where text `index` begins among all characters.
   std::size_t beginOf(std::size_t index) const { return index == 0 ? 0 : ends_[index - 1]; }
+
+  // The text that has the character at `place` of all characters; no text before `from` has it.
+  // Looks in widening steps, since it is mostly near.
+  std::size_t indexAt(std::size_t place, std::size_t from) const {
+    std::size_t step = 1;
+    while (from + step < ends_.size() && ends_[from + step] <= place) {
+      from += step;
+      step *= 2;
+    }
+    const auto at = [this](std::size_t i) {
+      return ends_.begin() + static_cast<std::ptrdiff_t>(std::min(i, ends_.size()));
+    };
+    const auto behind = std::upper_bound(at(from), at(from + step + 1), place);
+    return static_cast<std::size_t>(behind - ends_.begin());
+  }
+
   const Char* data() const { return characters_.data(); }
 
  private:

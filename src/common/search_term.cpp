@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <numeric>
+
+#include "common/find_bytes.h"
 
 namespace termvik {
 
@@ -10,6 +13,9 @@ namespace {
 // Longer terms go through a search whose cost does not grow with the term: a pasted text of one
 // letter 100,000 times over must not stall the program.
 constexpr std::size_t kLongTerm = 64;
+
+// One letter in so many is rare (bench/full_search_bench).
+constexpr std::uint64_t kRare = 100;
 
 // No collation joins more characters than this into one step.
 constexpr std::size_t kLongestContext = 4;
@@ -40,11 +46,12 @@ class CharacterEdges {
 SearchTerm::SearchTerm(const Collation& collation, TextView term, const LetterCounts& counts)
     : collation_(&collation), term_(term), elements_(collation.collator().elements(term)) {
   spell();
-  if (!letters_) return;
+  if (!letters_ || letters_->empty()) return;
   const auto rarest =
       std::min_element(letters_->begin(), letters_->end(),
                        [&counts](Letter a, Letter b) { return counts.at(a) < counts.at(b); });
-  rarest_ = static_cast<std::size_t>(rarest - letters_->begin());
+  const auto all = std::accumulate(counts.begin(), counts.end(), std::uint64_t{0});
+  if (std::uint64_t{counts.at(*rarest)} * kRare <= all) rareLetter_ = rarest - letters_->begin();
   if (letters_->size() > kLongTerm) prepareLongTerm();
 }
 
@@ -83,14 +90,27 @@ std::size_t SearchTerm::firstPlace(LettersView letters, Accept accept) const {
   if (term.empty()) return 0;
   if (letters.size() < term.size()) return kNotFound;
   if (term.size() > kLongTerm) return firstPlaceOfLongTerm(letters, accept);
-  const std::size_t lastPlace = letters.size() - term.size();
-  for (std::size_t place = 0; place <= lastPlace; ++place) {
+  for (std::size_t from = 0; from + term.size() <= letters.size();) {
+    const LettersView rest = letters.substr(from);
+    const std::size_t found = rareLetter_ ? findByRareLetter(rest) : findBytes(rest, term);
+    if (found == kNotFound) return kNotFound;
+    if (accept(from + found)) return from + found;
+    from += found + 1;
+  }
+  return kNotFound;
+}
+
+// Where a letter of the term is rare, going from one to the next is the fastest way.
+std::size_t SearchTerm::findByRareLetter(LettersView letters) const {
+  const LettersView term(letters_->data(), letters_->size());
+  const std::size_t last = letters.size() - term.size();
+  for (std::size_t place = 0; place <= last; ++place) {
     const void* found =
-        std::memchr(letters.data() + place + rarest_, term[rarest_], lastPlace - place + 1);
+        std::memchr(letters.data() + place + *rareLetter_, term[*rareLetter_], last - place + 1);
     if (found == nullptr) return kNotFound;
-    place = static_cast<std::size_t>(static_cast<const Letter*>(found) - letters.data()) - rarest_;
-    const bool stands = std::memcmp(letters.data() + place, term.data(), term.size()) == 0;
-    if (stands && accept(place)) return place;
+    place =
+        static_cast<std::size_t>(static_cast<const Letter*>(found) - letters.data()) - *rareLetter_;
+    if (std::memcmp(letters.data() + place, term.data(), term.size()) == 0) return place;
   }
   return kNotFound;
 }

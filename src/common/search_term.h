@@ -42,6 +42,7 @@ class SearchTerm {
   template <class Accept>
   std::size_t firstPlaceOfLongTerm(LettersView letters, Accept accept) const;
 
+  std::size_t findByRareLetter(LettersView letters) const;
   bool occursByCollator(TextView text) const;
   bool equalsStretchNear(TextView text, std::size_t start, std::size_t end) const;
   void spell();
@@ -51,7 +52,7 @@ class SearchTerm {
   Text term_;
   std::vector<CollationElement> elements_;
   std::optional<std::vector<Letter>> letters_;  // none when no text of known characters has them
-  std::size_t rarest_ = 0;                      // index of the term's rarest letter
+  std::optional<std::size_t> rareLetter_;       // index of the term's rarest letter if it is rare
   std::vector<std::size_t> restarts_;  // of a long term: behind each letter, how many of the
                                        // letters up to it are also the term's beginning
 };

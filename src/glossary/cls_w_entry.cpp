@@ -121,19 +121,6 @@ bool clsWEntry::getGlossaryWord(TextView aWordType, bool& getFirst, TextView& wo
   return false;
 }
 
-bool clsWEntry::getGlossaryWordIfSearchedFor(TextView aWordType,
-                                             const std::vector<SearchTerm>& terms,
-                                             TextView& key) const {
-  const auto comment = firstText_ + static_cast<std::size_t>(entryWordCount_);
-  for (const SearchTerm& term : terms) {
-    const auto hit = texts_->firstWith(term, firstText_, comment + 1);
-    if (!hit) continue;
-    key = *hit == comment ? wordForCommentHit(aWordType) : texts_->text(*hit);
-    return true;
-  }
-  return false;
-}
-
 TextView clsWEntry::wordForCommentHit(TextView aWordType) const {
   for (std::int32_t i = 1; i <= entryWordCount_; ++i) {
     if (isOfType(i, aWordType)) return entryWord(i);

@@ -3,12 +3,11 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "common/packed_texts.h"
-#include "common/search_term.h"
 #include "common/text.h"
 #include "glossary/entry_texts.h"
+#include "glossary/search_run.h"
 
 namespace termvik {
 
@@ -45,11 +44,16 @@ class clsWEntry {
   // before the first call, which clears it, and calls until the result is false.
   bool getGlossaryWord(TextView aWordType, bool& getFirst, TextView& word);
 
-  // True when one of `terms` occurs in a word of any language or in the comment. `key` is then the
-  // word to list: the one that has the term, or, for a hit in the comment, the entry's first word
-  // of `aWordType`, or its first word of all.
-  bool getGlossaryWordIfSearchedFor(TextView aWordType, const std::vector<SearchTerm>& terms,
-                                    TextView& key) const;
+  // True when one of the terms of `search` occurs in a word of any language or in the comment.
+  // `key` is then the word to list: the one that has the first such term, or, for a hit in the
+  // comment, the entry's first word of `aWordType`, or its first word of all.
+  bool getGlossaryWordIfSearchedFor(TextView aWordType, SearchRun& search, TextView& key) const {
+    const auto comment = firstText_ + static_cast<std::size_t>(entryWordCount_);
+    const auto hit = search.firstHit(*texts_, firstText_, comment + 1);
+    if (!hit) return false;
+    key = *hit == comment ? wordForCommentHit(aWordType) : texts_->text(*hit);
+    return true;
+  }
 
   // The entry as the user reads it: the words of `aWordType` on the first line, the others below,
   // then the comment. Lines are joined by CR LF.

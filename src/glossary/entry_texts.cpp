@@ -40,28 +40,29 @@ LettersView EntryTexts::lettersOf(const FoldedTexts& folded, std::size_t index) 
   return letters;
 }
 
-std::optional<std::size_t> EntryTexts::firstWith(const SearchTerm& term, std::size_t first,
-                                                 std::size_t end) const {
-  const FoldedTexts& all = folded();
-  const auto unknown = std::lower_bound(all.unknown.begin(), all.unknown.end(), first);
-  const bool allKnown = unknown == all.unknown.end() || *unknown >= end;
-  if (!allKnown) {
-    for (std::size_t i = first; i < end; ++i) {
-      if (term.occursIn(text(i))) return i;
-    }
-    return std::nullopt;
+std::size_t EntryTexts::firstWith(const SearchTerm& term, std::size_t first) const {
+  const std::vector<std::size_t>& unknown = folded().unknown;
+  const std::size_t hit = firstKnownWith(term, first);
+  auto other = std::lower_bound(unknown.begin(), unknown.end(), first);
+  for (; other != unknown.end() && *other < hit; ++other) {
+    if (term.occursIn(text(*other))) return *other;
   }
+  return hit;
+}
+
+std::size_t EntryTexts::firstKnownWith(const SearchTerm& term, std::size_t first) const {
+  const PackedTexts<Letter>& letters = folded().letters;
   std::size_t index = first;
-  while (index < end) {
-    const std::size_t begin = all.letters.beginOf(index);
-    const LettersView rest(all.letters.data() + begin, all.letters.beginOf(end) - begin);
+  while (index < size()) {
+    const std::size_t begin = letters.beginOf(index);
+    const LettersView rest(letters.data() + begin, letters.characterCount() - begin);
     const std::size_t hit = term.find(rest);
-    if (hit == SearchTerm::kNotFound) return std::nullopt;
-    while (all.letters.beginOf(index + 1) <= begin + hit) ++index;
-    if (term.occursIn(text(index), lettersOf(all, index))) return index;
+    if (hit == SearchTerm::kNotFound) break;
+    index = letters.indexAt(begin + hit, index);
+    if (term.occursIn(text(index), lettersOf(folded(), index))) return index;
     ++index;
   }
-  return std::nullopt;
+  return size();
 }
 
 const LetterCounts& EntryTexts::letterCounts() const { return folded().counts; }

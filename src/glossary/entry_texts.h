@@ -39,15 +39,15 @@ class EntryTexts {
   TextView text(std::size_t index) const { return texts_[index]; }
   TextView type(std::size_t index) const { return {&types_[index], 1}; }  // of a word
 
-  // The first text from `first` up to, and not including, `end` in which `term` occurs.
-  std::optional<std::size_t> firstWith(const SearchTerm& term, std::size_t first,
-                                       std::size_t end) const;
+  // The first text from `first` on in which `term` occurs; size() when there is none.
+  std::size_t firstWith(const SearchTerm& term, std::size_t first) const;
 
   // How often each letter stands in the texts.
   const LetterCounts& letterCounts() const;
 
  private:
   const FoldedTexts& folded() const;
+  std::size_t firstKnownWith(const SearchTerm& term, std::size_t first) const;
   LettersView lettersOf(const FoldedTexts& folded, std::size_t index) const;
 
   const Collation* collation_;

@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "common/app.h"
-#include "common/search_term.h"
 #include "common/text.h"
 #include "common/toolkit.h"
 #include "glossary/def_words.h"
@@ -64,7 +63,7 @@ class frmGlossary {
 
   // full_search.cpp
   void cmdSearchAgain_Click();
-  void addEntryIfSearched(std::int32_t entryIndex, const std::vector<SearchTerm>& terms);
+  void addEntryIfSearched(std::int32_t entryIndex, SearchRun& search);
 
   // commands.cpp
   void optSearch_Click(std::int16_t Index);

@@ -1,5 +1,7 @@
 // Full search: replaces the list by one row for each entry of the chosen glossaries that holds at
 // least one of up to ten terms, in a word of any language or in its comment.
+#include <utility>
+
 #include "common/mathlib.h"
 #include "lookup/frm_glossary.h"
 
@@ -43,17 +45,17 @@ void frmGlossary::cmdSearchAgain_Click() {
   std::vector<SearchTerm> terms;
   terms.reserve(words.size());
   for (const TextView word : words) terms.emplace_back(words_.collation(), word, counts);
+  SearchRun search(std::move(terms));
   lstWords_.Clear();
   txtArticle_.setText({});
-  visitChosenEntries([&](std::int32_t i) { addEntryIfSearched(i, terms); });
+  visitChosenEntries([&](std::int32_t i) { addEntryIfSearched(i, search); });
   moveInList(0, 0);
 }
 
-void frmGlossary::addEntryIfSearched(std::int32_t entryIndex,
-                                     const std::vector<SearchTerm>& terms) {
+void frmGlossary::addEntryIfSearched(std::int32_t entryIndex, SearchRun& search) {
   TextView key;
   const clsWEntry& entry = words_.gEntries(entryIndex);
-  if (!entry.getGlossaryWordIfSearchedFor(words_.gWordType, terms, key)) return;
+  if (!entry.getGlossaryWordIfSearchedFor(words_.gWordType, search, key)) return;
   lstWords_.AddItem(key);
   lstWords_.setItemData(lstWords_.NewIndex(), entryIndex);
 }
