@@ -2,6 +2,7 @@
 // and the files.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "common/collator.h"
@@ -30,20 +31,25 @@ class Collation {
   const Collator& collator() const { return collator_; }
   const Letters& letters() const { return letters_; }
 
+  // The letter that a text begins with, whatever follows; none when that is not sure.
+  std::optional<Letter> firstLetter(TextView text) const {
+    if (text.empty() || !isSureLetter(text[0])) return std::nullopt;
+    if (text.size() > 1 && !isSureLetter(text[1])) return std::nullopt;
+    return letters_.of(text[0]).letters[0];
+  }
+
  private:
+  bool isSureLetter(char16_t character) const {
+    const CharacterLetters& letters = letters_.of(character);
+    return letters.known() && letters.count > 0;
+  }
+
   // True when the first characters alone show that the texts differ: the road of the many
   // comparisons with a word type or a mark at the beginning of a line.
   bool beginApart(TextView a, TextView b) const {
-    const Letter first = firstLetter(a);
-    const Letter other = firstLetter(b);
-    return first != kNoLetter && other != kNoLetter && first != other;
-  }
-
-  // The letter that a text begins with whatever follows, kNoLetter when that is not sure.
-  Letter firstLetter(TextView text) const {
-    if (text.empty() || (text.size() > 1 && !letters_.of(text[1]).known())) return kNoLetter;
-    const CharacterLetters& first = letters_.of(text[0]);
-    return first.known() && first.count > 0 ? first.letters[0] : kNoLetter;
+    const auto first = firstLetter(a);
+    const auto other = firstLetter(b);
+    return first && other && *first != *other;
   }
 
   Collator collator_;

@@ -36,8 +36,8 @@ bool LineReader::next(std::string_view& line) {
       continue;
     }
     if (failed_ || position_ == filled_) return false;
-    const std::size_t stop = end == std::string_view::npos ? filled_ : end;
-    line = std::string_view(buffer_).substr(position_, stop - position_);
+    line = std::string_view(buffer_).substr(position_, filled_ - position_);
+    if (line.ends_with('\r')) line.remove_suffix(1);
     position_ = filled_;
     return true;
   }

@@ -59,6 +59,7 @@ void SearchTerm::spell() {
   std::vector<Letter> letters;
   for (std::size_t next = 0; next < elements_.size();) {
     letters.push_back(collation_->letters().letterAt(elements_, next));
+    firstLetter_ = letters.front();
     if (letters.back() == kNoLetter) return;
   }
   letters_ = std::move(letters);
@@ -146,13 +147,9 @@ void SearchTerm::prepareLongTerm() {
 // follow the collation of text and term as far as they agree, then ask the collator.
 bool SearchTerm::occursByCollator(TextView text) const {
   if (collation_->isEmpty(term_)) return true;
-  const Letters& table = collation_->letters();
   for (std::size_t start = 0; start < text.size(); ++start) {
-    const CharacterLetters& first = table.of(text[start]);
-    const bool standsAlone =
-        first.known() && (start + 1 == text.size() || table.of(text[start + 1]).known());
-    if (standsAlone && (first.count == 0 || !letters_ || first.letters[0] != letters_->front())) {
-      continue;
+    if (const auto letter = collation_->firstLetter(text.substr(start))) {
+      if (*letter != firstLetter_) continue;
     }
     std::size_t window = 2 * kLongestContext;
     std::size_t agreed = 0;
@@ -163,7 +160,9 @@ bool SearchTerm::occursByCollator(TextView text) const {
       const auto parted =
           std::mismatch(here.begin(), here.end(), elements_.begin(), elements_.end(), sameWeights);
       agreed = static_cast<std::size_t>(parted.first - here.begin());
-    } while (agreed == here.size() && agreed < elements_.size() && start + window < text.size());
+      // The end of the window can cut a step in two: what parts there may yet agree.
+    } while (agreed < elements_.size() && agreed + kLongestContext >= here.size() &&
+             start + window < text.size());
     const std::size_t end = agreed == 0 ? 0 : static_cast<std::size_t>(here[agreed - 1].end);
     if (equalsStretchNear(text, start, start + end)) return true;
   }

@@ -52,6 +52,7 @@ class SearchTerm {
   Text term_;
   std::vector<CollationElement> elements_;
   std::optional<std::vector<Letter>> letters_;  // none when no text of known characters has them
+  Letter firstLetter_ = kNoLetter;              // kNoLetter when no known character begins with it
   std::optional<std::size_t> rareLetter_;       // index of the term's rarest letter if it is rare
   std::vector<std::size_t> restarts_;  // of a long term: behind each letter, how many of the
                                        // letters up to it are also the term's beginning
