@@ -1,10 +1,6 @@
 // What a person finds in the real main window beyond what the program asks of a toolkit.
 #include "toolkit/qt/qt_window.h"
 
-#include "lookup/frm_glossary_design.h"
-#include "toolkit/qt/qt_controls.h"
-#include "toolkit/qt/qt_user.h"
-
 #include <QAccessible>
 #include <QApplication>
 #include <QMenuBar>
@@ -12,6 +8,10 @@
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include "lookup/frm_glossary_design.h"
+#include "toolkit/qt/qt_controls.h"
+#include "toolkit/qt/qt_user.h"
 
 namespace termvik {
 namespace {

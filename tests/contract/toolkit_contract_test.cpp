@@ -1,13 +1,13 @@
 // What every toolkit promises to the program, with a user's real acts on its real controls.
-#include "lookup/frm_glossary_design.h"
-#include "toolkit/user.h"
-
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <gtest/gtest.h>
+
+#include "lookup/frm_glossary_design.h"
+#include "toolkit/user.h"
 #ifdef TERMVIK_WITH_QT
 #include "toolkit/qt/qt_user.h"
 #endif

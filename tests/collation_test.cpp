@@ -1,0 +1,93 @@
+// The order and the equality of words, and that the quicker roads to them give the same answers.
+#include "glossary/entry_texts.h"
+#include "support/desk.h"
+
+namespace termvik::test {
+
+static std::string relation(const Collation& collation, TextView a, TextView b) {
+  const int order = collation.textCompare(a, b);
+  return order < 0 ? "<" : order > 0 ? ">" : "=";
+}
+
+TEST(Collation, OrdersWordsForASwedishReader) {
+  expectTable(
+      "z|å => < ;; å|ä => < ;; ä|ö => < ;; åz|äa => < ;; vz|wa => < ;; Bit|bIT => = ;; Ö|ö => = ;; "
+      "e|é => < ;; éa|eb => < ;; É|é => = ;; ea|éa => < ;; Straße|STRASSE => = ;; ẞ|ss => = ;; "
+      "æ|AE => = ;; Œ|oe => = ;; o|ô => < ;; ôa|ob => < ;; Ô|ô => = ;; co|co  => < ;; 10|a => < ;; "
+      "co op|coa => < ;; co|co- => < ;; co-op|coa => < ;; |a => < ;; |\u00AD => = ;; "
+      "co\u00ADop|coop => = ;; ",
+      [](const std::string& words) {
+        const std::size_t bar = words.find('|');
+        return relation(swedish(), fromUtf8(words.substr(0, bar)), fromUtf8(words.substr(bar + 1)));
+      });
+}
+
+TEST(Collation, IsSwedishWhereTheUserHasNoLocale) {
+  for (const char* name : {"", "C", "POSIX", "C.UTF-8", "sv_SE.UTF-8"}) {
+    EXPECT_EQ(relation(Collation(name), u"z", u"ö"), "<") << name;
+  }
+  EXPECT_EQ(relation(Collation("de_DE.UTF-8"), u"z", u"ö"), ">");
+}
+
+// In Swedish nearly every character is a letter of its own; in Danish `aa` is one letter, so that
+// no text with an `a` can be taken letter by letter.
+struct EveryRoad : testing::TestWithParam<const char*> {
+  Collation collation{GetParam()};
+  Dice dice{2};
+};
+
+INSTANTIATE_TEST_SUITE_P(Locales, EveryRoad, testing::Values("sv_SE", "da_DK"));
+
+TEST_P(EveryRoad, GivesOneConsistentOrder) {
+  for (int round = 0; round < 20000; ++round) {
+    std::array<Text, 3> t = {dice.anyText(4), dice.anyText(4), dice.anyText(4)};
+    std::sort(t.begin(), t.end(),
+              [this](const Text& a, const Text& b) { return collation.textCompare(a, b) < 0; });
+    const std::string trace = toUtf8(t[0]) + " | " + toUtf8(t[1]) + " | " + toUtf8(t[2]);
+    const std::string both = relation(collation, t[0], t[1]) + relation(collation, t[1], t[2]);
+    ASSERT_EQ(both.find('>'), std::string::npos) << trace;
+    ASSERT_EQ(relation(collation, t[0], t[2]), both == "==" ? "=" : "<") << trace;
+    ASSERT_EQ(relation(collation, t[2], t[0]), both == "==" ? "=" : ">") << trace;
+    ASSERT_EQ(collation.equal(t[0], t[1]), both[0] == '=') << trace;
+    ASSERT_EQ(collation.isEmpty(t[0]), relation(collation, t[0], u"") == "=") << trace;
+  }
+}
+
+TEST_P(EveryRoad, FindsATermWhereAStretchOfTheTextEqualsIt) {
+  for (int round = 0; round < 20000; ++round) {
+    const bool isLong = round % 100 == 0;
+    std::array<Text, 3> texts;
+    for (Text& text : texts) text = isLong ? dice.text(u"abBß", 150) : dice.anyText(7);
+    Text term = dice.oneOf(texts);
+    term = term.substr(dice.below(term.size() + 1)).substr(0, 1 + dice.below(isLong ? 140 : 7));
+    for (char16_t& c : term) {
+      if (dice.below(isLong ? 200 : 12) == 0) c = dice.oneOf(Dice::kHard);
+      if (c >= u'a' && c <= u'z' && dice.below(2) == 0) c = static_cast<char16_t>(c - 32);
+    }
+    if (collation.isEmpty(term)) continue;
+    const SearchTerm search(collation, term);
+    EntryTexts packed(collation);
+    std::optional<std::size_t> first;
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+      const bool occurs = occursPlainly(collation, term, texts[i]);
+      if (occurs && !first) first = i;
+      packed.addWord(texts[i], u'S');
+      ASSERT_EQ(search.occursIn(texts[i]), occurs) << toUtf8(term) << " in " << toUtf8(texts[i]);
+    }
+    ASSERT_EQ(packed.firstWith(search, 0), first.value_or(texts.size())) << toUtf8(term);
+  }
+}
+
+TEST(CodePage, GivesEveryByteACharacterAndTakesItBack) {
+  std::string bytes;
+  for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
+  Text text;
+  decodeAnsi(bytes, text);
+  EXPECT_EQ(text.substr(0x7E, 36),
+            u"~\u007F€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ\u00A0¡");
+  EXPECT_EQ(text.substr(0xC5, 2) + text.substr(0xFF), u"ÅÆÿ");
+  EXPECT_EQ(encodeAnsi(text), bytes);
+  EXPECT_EQ(encodeAnsi(u"aл\u0080\xD83D\xDE00å"), "a????\xE5");
+}
+
+}  // namespace termvik::test

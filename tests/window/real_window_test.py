@@ -1,0 +1,230 @@
+"""Drives the program in its real window: hands through xdotool, eyes through accessibility."""
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import time
+import unittest
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PROGRAM, FOLDER = map(pathlib.Path, sys.argv[1:3])
+GLOSSARIES = {"graphword.txt": "Graphical, small\n---\nS: färg\nE: ink\n---\nS: lim\nE: glue\n"
+                               "C: Sticks paper\nand board.\n---\nS: ark\nE: sheet\n---\n",
+              "toolsword.txt": "Tools\n---\nS: lim\nE: size\nD: Leim\n---\nS: fil\nE: file\n"}
+DOUBLET = "lim ------DUBBLETT-"
+RULE = "=" * 39
+REPORT = (f"DUBBLETTER\n{RULE}\n\n\n\nS: lim\nE: glue\n\nSticks paper\nand board."
+          f"\n\nS: lim\nE: size\nD: Leim\n\n\n{RULE}\n\n").replace("\n", "\r\n")
+NAMES = """Search;Words;Article;Graphical glossary;Tools glossary;Both;termvik.test;Search again
+Specify look up in list or full search;Look up word in list;Search words in whole glossary
+Markera dubletter!;English;Svenska;Deutsch;Francais;About;Läs in ordlistefilerna igen
+Visa ordlisteversioner;Skapa ordlistefil;Skapa lista över dubbletter"""
+
+
+def run(*command):
+    arguments = [str(argument) for argument in command]
+    return subprocess.check_output(arguments, stderr=subprocess.DEVNULL, timeout=10).decode()
+
+
+def active_window():
+    return run("xdotool", "getactivewindow").strip()
+
+
+def attempt(look):
+    try:
+        return look()
+    except (GLib.Error, LookupError, subprocess.SubprocessError) as error:
+        return error
+
+
+def wait_for(look, expected):
+    """Until look() gives what is expected."""
+    deadline = time.monotonic() + 15
+    while (seen := attempt(look)) != expected:
+        if time.monotonic() > deadline:
+            raise AssertionError(f"{seen!r} has not become {expected!r}")
+        time.sleep(0.02)
+
+
+def walk(node):
+    yield node
+    for child in filter(None, map(node.get_child_at_index, range(node.get_child_count()))):
+        yield from walk(child)
+
+
+def place(node):
+    seen = node.get_extents(Atspi.CoordType.SCREEN)
+    return seen.x, seen.y, seen.width, seen.height
+
+
+def layout(width, height):
+    """Where a window of that outer size has its parts, in twips: left, top, width, height."""
+    column = round(width * 0.35)
+    return {"Words": (240, 1680, column, max(0, height - 1680 - 800)),
+            "Article": (min(width, 240 + column + 200), 2280,
+                        max(0, width - 240 - column - 200 - 200), max(0, height - 2280 - 800)),
+            "Termvik logo": (max(2400, width - 3000), 0, 2535, 1695)}
+
+
+class RealWindow(unittest.TestCase):
+    def setUp(self):
+        shutil.rmtree(FOLDER, ignore_errors=True)
+        FOLDER.mkdir(parents=True)
+        shutil.copy(PROGRAM, FOLDER)
+        for name, text in GLOSSARIES.items():
+            (FOLDER / name).write_bytes(text.replace("\n", "\r\n").encode("cp1252"))
+        self.start()
+
+    def start(self):
+        self.program = subprocess.Popen([FOLDER / PROGRAM.name])
+        self.addCleanup(self.program.kill)
+        wait_for(lambda: run("xdotool", "getactivewindow", "getwindowname"),
+                 "Termvik - Graphical and tools glossary\n")
+        self.window = active_window()
+        wait_for(lambda: self.has_focus("Search"), True)
+
+    def close(self):
+        """Closes the window as a person does; what it leaves in its parameter file."""
+        wait_for(active_window, self.window)
+        run("xdotool", "key", "alt+F4")
+        self.assertEqual(self.program.wait(15), 0)
+        return (FOLDER / "Termvik.par").read_bytes()
+
+    def tearDown(self):
+        if self.program.poll() is None:
+            self.close()
+
+    def nodes(self):
+        for node in walk(Atspi.get_desktop(0)):
+            if node.get_process_id() == self.program.pid:
+                yield node
+
+    def control(self, name):
+        for node in self.nodes():
+            if node.get_name() == name:
+                return node
+        raise LookupError(f"No control is named {name}")
+
+    def has_focus(self, name):
+        return self.control(name).get_state_set().contains(Atspi.StateType.FOCUSED)
+
+    def click(self, name):
+        left, top, width, height = place(self.control(name))
+        run("xdotool", "mousemove", left + width // 2, top + height // 2, "click", 1)
+
+    def rows(self, *states):
+        return [row.get_name() for row in list(walk(self.control("Words")))[1:]
+                if all(map(row.get_state_set().contains, states))]
+
+    def selected(self):
+        return self.rows(Atspi.StateType.SELECTED)
+
+    def text(self, name="Article"):
+        return Atspi.Text.get_text(self.control(name), 0, -1)
+
+    def choose_both(self):
+        self.click("Both")
+        wait_for(self.rows, ["ark", "fil", "färg", DOUBLET, DOUBLET])
+
+    def client(self):
+        lines = run("xwininfo", "-id", self.window)
+        return tuple(int(re.search(name + r": +(-?\d+)", lines)[1]) for name in
+                     ("Absolute upper-left X", "upper-left Y", "Width", "Height"))
+
+    def outer(self):
+        x, y, width, height = self.client()
+        frame = run("xprop", "-id", self.window, "_NET_FRAME_EXTENTS")
+        left, right, top, bottom = map(int, re.findall(r"\d+", frame))
+        return x - left, y - top, width + left + right, height + top + bottom
+
+    def bring_to(self, x, y, *size):
+        """Moves and resizes the client area; the outer rectangle that it then has."""
+        run("xdotool", "windowsize", self.window, *size, "windowmove", self.window, x, y)
+        wait_for(self.client, (x, y, *size))
+        return self.outer()
+
+    def test_mouse_and_typed_word_select_rows(self):
+        self.choose_both()
+        wait_for(self.text, "S: ark\nE: sheet\n\n")
+        self.click("färg")
+        wait_for(self.text, "S: färg\nE: ink\n\n")
+        self.assertEqual(self.selected(), ["färg"])
+        self.click("Search")
+        run("xdotool", "type", "fi")
+        wait_for(self.selected, ["fil"])
+        run("xdotool", "key", "BackSpace", "BackSpace", "l")
+        wait_for(self.selected, [DOUBLET])
+        wait_for(self.text, "S: lim\nE: glue\n\nSticks paper\nand board.")
+
+    def test_layout_follows_outer_size(self):
+        for size in ((900, 600), (1301, 777), (640, 333), (320, 300)):
+            _, _, width, height = self.bring_to(100, 80, *size)
+            left, top, _, menu_height = place(self.control("English").get_parent())
+            for name, (x, y, w, h) in layout(15 * width, 15 * height).items():
+                x, y, right, bottom = (int(edge / 15 + 0.5) for edge in (x, y, x + w, y + h))
+                expected = (left + x, top + menu_height + y, right - x, bottom - y)
+                wait_for(lambda part=name: (part, place(self.control(part))), (name, expected))
+
+    def test_every_control_has_its_name(self):
+        kinds = (Atspi.Role.LABEL, Atspi.Role.PANEL, Atspi.Role.MENU_ITEM)
+        names = {node.get_name() for node in self.nodes() if node.get_role() in kinds or
+                 node.get_state_set().contains(Atspi.StateType.FOCUSABLE)}
+        self.assertEqual(names, set(re.split("[;\n]", NAMES)))
+
+    def test_keyboard_reaches_menu(self):
+        self.choose_both()
+        run("xdotool", "key", "F10", "Return")
+        wait_for(self.rows, ["file", "glue", "ink", "sheet", "size"])
+        run("xdotool", "key", "F10", "Right", "Right", "Right", "Right", "Return")
+        wait_for(lambda: self.has_focus("OK"), True)
+        self.assertIn("Version: ", self.text("Authors and version"))
+        run("xdotool", "key", "Escape")
+        wait_for(lambda: "OK" in [node.get_name() for node in self.nodes()], False)
+
+    def test_doublets_reach_another_program(self):
+        self.choose_both()
+        self.click("Skapa lista över dubbletter")
+        wait_for(lambda: self.has_focus("OK"), True)
+        wait_for(lambda: run("xclip", "-o", "-selection", "clipboard"), REPORT)
+        run("xdotool", "key", "Return")
+
+    def test_place_and_glossary_are_kept(self):
+        self.click("Tools glossary")
+        wait_for(self.rows, ["fil", "lim"])
+        left, top, width, height = outer = self.bring_to(211, 143, 833, 517)
+        for _ in range(11):
+            self.assertEqual(self.close(), (
+                f"WINDOWSSTATE 0\r\nWINTOP {15 * top}\r\nWINLEFT {15 * left}\r\nWINWIDTH "
+                f"{15 * width}\r\nWINHEIGHT {15 * height}\r\nGLOSSARYINDEX 1\r\n").encode())
+            self.start()
+            wait_for(self.outer, outer)
+            rest = time.monotonic() + 0.6
+            while time.monotonic() < rest:  # nor does it stir once it is there
+                self.assertEqual(self.outer(), outer)
+            self.assertEqual(self.rows(), ["fil", "lim"])
+
+    def is_maximised(self):
+        state = run("xprop", "-id", self.window, "_NET_WM_STATE")
+        return "MAXIMIZED_VERT" in state and "MAXIMIZED_HORZ" in state
+
+    def press_title_twice(self, maximises):
+        left, top, width, _ = self.outer()
+        run("xdotool", "mousemove", left + width // 2, top + 8, "click", "--repeat", 2, 1)
+        wait_for(self.is_maximised, maximises)
+
+    def test_maximised_comes_back_maximised(self):
+        design = self.outer()[2:]
+        self.press_title_twice(True)
+        self.assertTrue(self.close().startswith(b"WINDOWSSTATE 2\r\n"))
+        self.start()
+        wait_for(self.is_maximised, True)
+        self.press_title_twice(False)
+        wait_for(lambda: [now >= then for now, then in zip(self.outer()[2:], design)], [True] * 2)
+
+
+unittest.main(argv=sys.argv[:1] + sys.argv[3:], verbosity=2)
