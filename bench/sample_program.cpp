@@ -1,0 +1,65 @@
+#include "sample_program.h"
+
+#include <cstdlib>
+
+#include "sample_glossary.h"
+
+namespace termvik::bench {
+
+namespace {
+
+constexpr ScreenSize kScreen{28800, 16200};
+constexpr std::int16_t kBothGlossaries = 2;
+
+App appIn(const std::filesystem::path& folder) {
+  App app;
+  app.Path = folder;
+  return app;
+}
+
+}  // namespace
+
+const Collation& swedish() {
+  static const Collation collation("sv_SE");
+  return collation;
+}
+
+std::unique_ptr<defWords> loadedStore(std::int64_t entries) {
+  auto store = std::make_unique<defWords>(swedish(), sampleFolder(entries), [](TextView) {});
+  store->gWordType = u"S";
+  store->readGlossaries();
+  return store;
+}
+
+SampleProgram::SampleProgram(std::int64_t entries)
+    : user_(makeMemoryUser(swedish(), kScreen)),
+      app_(appIn(sampleFolder(entries))),
+      program_(user_->toolkit(), swedish(), app_) {
+  program_.start();
+  choose(u"optGlossary", kBothGlossaries);
+}
+
+void SampleProgram::choose(TextView group, std::int16_t index) {
+  for (const auto& control : window().controls()) {
+    const ControlDesign& design = control->design();
+    if (design.name == group && design.index == index) user_->click(*control);
+  }
+}
+
+void fillList(ListBox& list, defWords& store) {
+  for (std::int32_t i = store.gGraphFirst; i <= store.gToolsLast; ++i) {
+    bool getFirst = true;
+    TextView word;
+    while (store.gEntries(i).getGlossaryWord(store.gWordType, getFirst, word)) {
+      list.AddItem(word);
+      list.setItemData(list.NewIndex(), i);
+    }
+  }
+}
+
+void passOver(const ListBox& list) {
+  constexpr TextView kBehindAllRows = u"ööööööööö";
+  if (list.rows().findPrefix(kBehindAllRows, 0).row != list.ListCount()) std::abort();
+}
+
+}  // namespace termvik::bench

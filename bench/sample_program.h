@@ -1,0 +1,42 @@
+// The program's modules at work on a sample glossary, on the memory toolkit.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "app/program.h"
+#include "toolkit/user.h"
+
+namespace termvik::bench {
+
+const Collation& swedish();
+
+// The store, loaded with the sample of that many entries.
+std::unique_ptr<defWords> loadedStore(std::int64_t entries);
+
+// The program with both glossaries of a sample in its list, and its user.
+class SampleProgram {
+ public:
+  explicit SampleProgram(std::int64_t entries);
+
+  ListBox& list() const { return window().listBox(u"lstWords"); }
+
+  void type(TextView text) { user_->replaceText(window().textBox(u"txtSearch"), text); }
+  void choose(TextView group, std::int16_t index);
+  void search() { user_->click(window().commandButton(u"cmdSearchAgain")); }
+
+ private:
+  Window& window() const { return *user_->toolkit().Forms().front(); }
+
+  std::unique_ptr<User> user_;
+  App app_;
+  Program program_;
+};
+
+// Fills the list with the store's words as the program does.
+void fillList(ListBox& list, defWords& store);
+
+// One plain pass over all rows.
+void passOver(const ListBox& list);
+
+}  // namespace termvik::bench
