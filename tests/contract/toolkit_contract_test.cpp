@@ -149,6 +149,7 @@ TEST_P(ToolkitContract, RowsStandInOrderAndKeepTheirNumbers) {
   }
   list.setList(4, u"aaa");
   std::vector<std::pair<Text, std::int32_t>> rows;
+  rows.reserve(added.size());
   for (std::int32_t row = 0; row < list.ListCount(); ++row) {
     rows.emplace_back(list.List(row), list.ItemData(row));
   }
