@@ -55,6 +55,7 @@ void ListBox::setListIndex(std::int32_t row) {
 }
 
 void ListBox::userSelects(std::int32_t row) {
+  if (row == listIndex_) return;
   listIndex_ = row;
   raise(Click);
 }

@@ -118,13 +118,15 @@ class ListBox : public Control {
 
   const SortedRows& rows() const { return rows_; }
 
-  std::function<void()> Click;  // a row was selected: by assignment, by mouse, by the list's keys
+  // A row was selected: by assignment, by the mouse or by the keys of the list. The user's click on
+  // the row that is selected raises nothing.
+  std::function<void()> Click;
 
  protected:
   virtual void showRows() = 0;                     // any rows may have come or gone
   virtual void showRowText(std::int32_t row) = 0;  // one text has changed
   virtual void showSelection() = 0;                // the selected row, in view
-  void userSelects(std::int32_t row);
+  void userSelects(std::int32_t row);              // nothing when it is selected
 
  private:
   SortedRows rows_;

@@ -165,7 +165,8 @@ TEST_P(ToolkitContract, SelectingARowRaisesClickBeforeTheCallIsOver) {
   list.setListIndex(2);
   EXPECT_EQ(happened(), Events{"list 2"}) << "also for the row that is selected";
   user->clickRow(list, 0);
-  EXPECT_EQ(happened(), Events{"list 0"});
+  user->clickRow(list, 0);
+  EXPECT_EQ(happened(), Events{"list 0"}) << "once, however often it is clicked";
   user->press(list, keys::kDown);
   EXPECT_EQ(happened(), Events{"list 1"});
   list.AddItem(u"a");

@@ -57,7 +57,7 @@ void MemoryTextBox::userPresses(std::int16_t keyCode) {
 void MemoryListBox::userPresses(std::int16_t keyCode) {
   const std::int32_t step = keyCode == keys::kDown ? 1 : keyCode == keys::kUp ? -1 : 0;
   const std::int32_t row = std::clamp(ListIndex() + step, 0, ListCount() - 1);
-  if (row != ListIndex()) userSelects(row);
+  userSelects(row);
 }
 
 MemoryWindow::MemoryWindow(MemoryToolkit& toolkit, const WindowDesign& design)
