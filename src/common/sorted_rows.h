@@ -21,7 +21,6 @@ class TextArena {
  public:
   // A copy of `text` with a 0 behind it.
   const Char* add(std::basic_string_view<Char> text);
-  void clear() { *this = TextArena(); }
 
  private:
   static constexpr std::size_t kChunk = 1U << 18U;

@@ -4,8 +4,6 @@
 
 namespace termvik {
 
-void EntryTexts::clear() { *this = EntryTexts(*collation_); }
-
 void EntryTexts::reserve(std::size_t texts, std::size_t characters) {
   texts_.reserve(texts, characters);
   types_.reserve(texts);

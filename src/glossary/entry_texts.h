@@ -26,9 +26,6 @@ class EntryTexts {
 
   const Collation& collation() const { return *collation_; }
 
-  // Releases all texts.
-  void clear();
-
   // Makes room for `texts` words and comments of `characters` characters in all.
   void reserve(std::size_t texts, std::size_t characters);
 

@@ -1,7 +1,6 @@
 #include "player.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -12,10 +11,6 @@
 namespace termvik::replay {
 
 namespace {
-
-constexpr std::array<std::string_view, 9> kMenuItems = {
-    "mnuEnglish", "mnuSwedish",           "mnuGerman",         "mnuFrance",     "mnuAbout",
-    "mnuReRead",  "mnuShowGlossVersions", "mnuCreateWordList", "mnuDoubletList"};
 
 std::string quoted(std::string_view word) { return "'" + std::string(word) + "'"; }
 
@@ -207,10 +202,13 @@ void Player::check(std::string_view value) {
 }
 
 void Player::chooseMenu(std::string_view name) {
-  if (std::find(kMenuItems.begin(), kMenuItems.end(), name) == kMenuItems.end()) {
+  const Text wanted = fromUtf8(name);
+  const auto& menu = window().design().menu;
+  if (std::none_of(menu.begin(), menu.end(),
+                   [&](const auto& item) { return item.name == wanted; })) {
     throw ScriptError("there is no menu item " + quoted(name));
   }
-  user_.choose(window(), window().menuItem(fromUtf8(name)));
+  user_.choose(window(), window().menuItem(wanted));
 }
 
 void Player::call(std::string_view operation) {

@@ -115,7 +115,6 @@ void MemoryWindow::userRestores() {
 }
 
 void MemoryWindow::Show() {
-  shown_ = true;
   if (Resize) Resize();
 }
 

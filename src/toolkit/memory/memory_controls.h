@@ -105,7 +105,6 @@ class MemoryWindow : public Window {
   Place normalPlace_;
   WindowState state_ = WindowState::Normal;
   WindowState stateBehindIcon_ = WindowState::Normal;
-  bool shown_ = false;
 };
 
 }  // namespace termvik
