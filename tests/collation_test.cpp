@@ -81,8 +81,7 @@ TEST_P(EveryRoad, FindsATermWhereAStretchOfTheTextEqualsIt) {
 TEST(CodePage, GivesEveryByteACharacterAndTakesItBack) {
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
-  Text text;
-  decodeAnsi(bytes, text);
+  const Text text = decodeAnsi(bytes);
   EXPECT_EQ(text.substr(0x7E, 36),
             u"~\u007F€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ\u00A0¡");
   EXPECT_EQ(text.substr(0xC5, 2) + text.substr(0xFF), u"ÅÆÿ");

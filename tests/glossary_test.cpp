@@ -48,9 +48,7 @@ static Strings plainEntries(const std::filesystem::path& file) {
   Strings lines = linesOf(file);
   lines.emplace_back("---");
   for (const std::string& bytes : lines) {
-    Text line;
-    decodeAnsi(bytes, line);
-    line = trimEnd(line);
+    const Text line(trimEnd(decodeAnsi(bytes)));
     const bool isWordLine = line.size() > 1 && line[1] == u':';
     if (swedish().textCompare(line.substr(0, 3), u"---") == 0) {
       if (counts) entries.push_back(flat(words.append(u"|").append(comment)));

@@ -9,9 +9,14 @@
 
 namespace termvik {
 
-// Appends `bytes` to `out` as characters. Every byte gives a character: the five bytes that
-// Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so on.
-void decodeAnsi(std::string_view bytes, Text& out);
+// Writes `bytes` to `out` as characters and gives their number, which is never above that of the
+// bytes. The five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so on.
+std::size_t decodeAnsi(std::string_view bytes, char16_t* out);
+inline Text decodeAnsi(std::string_view bytes) {
+  Text text(bytes.size(), u'\0');
+  text.resize(decodeAnsi(bytes, text.data()));
+  return text;
+}
 
 // `text` as bytes of the code page. A character (one UTF-16 element) that the code page lacks
 // becomes '?'.

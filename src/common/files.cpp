@@ -1,8 +1,32 @@
 #include "common/files.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <vector>
 
 namespace termvik {
+
+namespace {
+
+constexpr std::size_t kPiece = 1U << 16U;  // bytes read at a time
+
+// In stretches that a count of one byte can hold, which the compiler counts many bytes at a time
+// (bench/load).
+std::size_t countCrs(std::string_view bytes) {
+  constexpr std::size_t kStretch = std::numeric_limits<std::uint8_t>::max();
+  std::size_t count = 0;
+  for (; !bytes.empty(); bytes.remove_prefix(std::min(bytes.size(), kStretch))) {
+    std::uint8_t inStretch = 0;
+    for (const char byte : bytes.substr(0, kStretch)) {
+      inStretch = static_cast<std::uint8_t>(inStretch + (byte == '\r' ? 1 : 0));
+    }
+    count += inStretch;
+  }
+  return count;
+}
+
+}  // namespace
 
 bool fileExists(const std::filesystem::path& fileName) {
   std::error_code error;
@@ -16,8 +40,26 @@ std::filesystem::path fileIn(const std::filesystem::path& folder, TextView fileN
   return path;
 }
 
+bool measureFile(const std::filesystem::path& fileName, FileMeasure& measure) {
+  measure = {};
+  const File file = openToRead(fileName);
+  if (!file) return false;
+  std::vector<char> piece(kPiece);
+  std::string tail;  // the last two bytes
+  while (const std::size_t read = std::fread(piece.data(), 1, piece.size(), file.get())) {
+    const std::string_view bytes(piece.data(), read);
+    measure.bytes += read;
+    measure.lines += countCrs(bytes);
+    tail.append(bytes.substr(read - std::min<std::size_t>(read, 2)));
+    tail.erase(0, tail.size() - std::min<std::size_t>(tail.size(), 2));
+  }
+  const bool lastLineEnds = tail.ends_with('\r') || tail == "\r\n";
+  if (!tail.empty() && !lastLineEnds) ++measure.lines;
+  return std::ferror(file.get()) == 0;
+}
+
 LineReader::LineReader(const std::filesystem::path& fileName)
-    : file_(openToRead(fileName)), buffer_(kBufferSize, '\0'), failed_(file_ == nullptr) {}
+    : file_(openToRead(fileName)), buffer_(kPiece, '\0'), failed_(file_ == nullptr) {}
 
 bool LineReader::next(std::string_view& line) {
   std::size_t searched = position_;

@@ -1,6 +1,7 @@
 // The program's text files, as lines and as whole contents.
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -32,6 +33,15 @@ using File = std::unique_ptr<std::FILE, FileCloser>;
 File openToRead(const std::filesystem::path& fileName);
 File openToWrite(const std::filesystem::path& fileName);
 
+// How large a text file is, as LineReader will find it.
+struct FileMeasure {
+  std::size_t lines = 0;
+  std::size_t bytes = 0;
+};
+
+// False when the file cannot be read to its end.
+bool measureFile(const std::filesystem::path& fileName, FileMeasure& measure);
+
 // The lines of an 8-bit text file, one after the other. A line ends at CR LF or at a lone CR; a
 // lone LF is a character of its line. A line end that is the last thing in the file opens no
 // further line.
@@ -47,8 +57,6 @@ class LineReader {
   bool failed() const { return failed_; }
 
  private:
-  static constexpr std::size_t kBufferSize = 1U << 16U;
-
   bool refill();
 
   File file_;

@@ -6,7 +6,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace termvik {
@@ -21,7 +23,7 @@ class PackedTexts {
 
   void reserve(std::size_t texts, std::size_t characters) {
     ends_.reserve(texts);
-    characters_.reserve(characters);
+    if (characters > room_) moveTo(characters);
   }
 
   void clear() { *this = PackedTexts(); }
@@ -33,17 +35,26 @@ class PackedTexts {
 
   // A text in pieces: any number of appendToLast, then endText.
   void appendToLast(View piece) {
-    characters_.insert(characters_.end(), piece.begin(), piece.end());
+    std::copy(piece.begin(), piece.end(), roomFor(piece.size()));
+    takeRoom(piece.size());
   }
-  void endText() { ends_.push_back(static_cast<std::uint32_t>(characters_.size())); }
+  void endText() { ends_.push_back(static_cast<std::uint32_t>(used_)); }
+
+  // Room behind the last piece for `most` characters that the caller writes; takeRoom makes the
+  // first `count` of them a piece.
+  Char* roomFor(std::size_t most) {
+    if (most > room_ - used_) moveTo(std::max(used_ + most, 2 * used_));
+    return characters_.get() + used_;
+  }
+  void takeRoom(std::size_t count) { used_ += count; }
 
   std::size_t size() const { return ends_.size(); }
-  std::size_t characterCount() const { return characters_.size(); }
+  std::size_t characterCount() const { return used_; }
 
   // Texts count from 0. A view is good until the next change.
   View operator[](std::size_t index) const {
     const std::size_t begin = beginOf(index);
-    return View(characters_.data() + begin, ends_[index] - begin);
+    return View(characters_.get() + begin, ends_[index] - begin);
   }
 
   // Where text `index` begins among all characters.
@@ -64,10 +75,19 @@ class PackedTexts {
     return static_cast<std::size_t>(behind - ends_.begin());
   }
 
-  const Char* data() const { return characters_.data(); }
+  const Char* data() const { return characters_.get(); }
 
  private:
-  std::vector<Char> characters_;
+  void moveTo(std::size_t room) {
+    auto moved = std::make_unique_for_overwrite<Char[]>(room);
+    std::copy_n(characters_.get(), used_, moved.get());
+    characters_ = std::move(moved);
+    room_ = room;
+  }
+
+  std::unique_ptr<Char[]> characters_;  // no vector: what is added is written once, not twice
+  std::size_t room_ = 0;                // for so many characters
+  std::size_t used_ = 0;
   std::vector<std::uint32_t> ends_;
 };
 

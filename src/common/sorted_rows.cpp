@@ -6,21 +6,6 @@
 
 namespace termvik {
 
-template <class Char>
-const Char* TextArena<Char>::add(std::basic_string_view<Char> text) {
-  const std::size_t size = text.size() + 1;
-  if (size > free_) {
-    free_ = std::max(size, kChunk);
-    chunks_.push_back(std::make_unique_for_overwrite<Char[]>(free_));
-    next_ = chunks_.back().get();
-  }
-  Char* copy = next_;
-  *std::copy(text.begin(), text.end(), copy) = Char{};
-  next_ += size;
-  free_ -= size;
-  return copy;
-}
-
 SortedRows::SortedRows(const Collation& collation) : collation_(&collation) {}
 
 void SortedRows::clear() { *this = SortedRows(*collation_); }

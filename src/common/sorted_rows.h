@@ -12,22 +12,9 @@
 
 #include "common/collation.h"
 #include "common/text.h"
+#include "common/text_arena.h"
 
 namespace termvik {
-
-// Texts and keys that stay where they are until all of them go.
-template <class Char>
-class TextArena {
- public:
-  // A copy of `text` with a 0 behind it.
-  const Char* add(std::basic_string_view<Char> text);
-
- private:
-  static constexpr std::size_t kChunk = 1U << 18U;
-  std::vector<std::unique_ptr<Char[]>> chunks_;
-  std::size_t free_ = 0;  // characters left in the last chunk
-  Char* next_ = nullptr;
-};
 
 class SortedRows {
  public:

@@ -4,28 +4,12 @@ namespace termvik {
 
 namespace {
 
-constexpr TextView kSeparatorMark = u"---";
-constexpr TextView kCommentMark = u"C:";
-constexpr TextView kTypeMark = u":";
-
 // The characters of `text` from column `column` (1-based) on.
 TextView fromColumn(TextView text, std::size_t column) {
   return column > text.size() ? TextView() : text.substr(column - 1);
 }
 
 }  // namespace
-
-bool isSeparator(const Collation& collation, TextView line) {
-  return collation.equal(line.substr(0, kSeparatorMark.size()), kSeparatorMark);
-}
-
-bool clsWEntry::isCommentHead(TextView line) const {
-  return collation().equal(line.substr(0, kCommentMark.size()), kCommentMark);
-}
-
-bool clsWEntry::isWordLine(TextView line) const {
-  return collation().equal(fromColumn(line, 2).substr(0, 1), kTypeMark);
-}
 
 bool clsWEntry::decodeEntry(const LineTable& arr, std::int32_t& nextLine) {
   Range range{nextLine, nextLine};
@@ -36,12 +20,12 @@ bool clsWEntry::decodeEntry(const LineTable& arr, std::int32_t& nextLine) {
 }
 
 // Walks from range.first to the end of the entry. Blocks in which nothing counts are stepped over.
-bool clsWEntry::findRange(const LineTable& arr, Range& range) const {
+bool clsWEntry::findRange(const LineTable& arr, Range& range) {
   bool anyCounted = false;
   bool inComment = false;
   for (std::int32_t i = range.first; i <= arr.upperBound(); ++i) {
-    const TextView line = arr[i];
-    if (isSeparator(collation(), line)) {
+    const LineKind kind = arr.kind(i);
+    if (kind == LineKind::Separator) {
       if (anyCounted) {
         range.last = i;
         return true;
@@ -51,9 +35,9 @@ bool clsWEntry::findRange(const LineTable& arr, Range& range) const {
       continue;
     }
     range.last = i;
-    if (isCommentHead(line)) {
+    if (kind == LineKind::CommentHead) {
       inComment = true;
-    } else if (!inComment && !collation().isEmpty(line)) {
+    } else if (!inComment && kind != LineKind::Empty) {
       anyCounted = true;
     }
   }
@@ -63,31 +47,35 @@ bool clsWEntry::findRange(const LineTable& arr, Range& range) const {
 void clsWEntry::store(const LineTable& arr, const Range& range) {
   firstText_ = static_cast<std::uint32_t>(texts_->size());
   bool inComment = false;
-  Text comment;
+  TextView comment;
+  Text joined;  // the lines of a comment that has several
   char16_t wordType = u'\0';
   bool hasWordType = false;
   for (std::int32_t i = range.first; i <= range.last; ++i) {
     const TextView line = arr[i];
-    if (isSeparator(collation(), line)) continue;
-    if (isCommentHead(line)) {
+    const LineKind kind = arr.kind(i);
+    if (kind == LineKind::Separator) continue;
+    if (kind == LineKind::CommentHead) {
       inComment = true;
-      comment = trim(fromColumn(line, kCommentMark.size() + 1));
+      joined.clear();
+      comment = trim(fromColumn(line, 3));
     } else if (inComment) {
       if (collation().isEmpty(comment)) {
         comment = line;
       } else {
-        comment.append(kLineEnd).append(line);
+        if (joined.empty()) joined = comment;
+        comment = joined.append(kLineEnd).append(line);
       }
-    } else if (isWordLine(line)) {
+    } else if (kind == LineKind::Word) {
       wordType = line.front();
       hasWordType = true;
       texts_->addWord(fromColumn(line, 4), wordType);
-    } else if (hasWordType && !collation().isEmpty(line)) {
+    } else if (hasWordType && kind != LineKind::Empty) {
       texts_->addWord(line, wordType);
     }
   }
   entryWordCount_ = static_cast<std::int32_t>(texts_->size() - firstText_);
-  texts_->addComment(comment);
+  texts_->addComment(joined.empty() ? comment : texts_->keep(joined));
 }
 
 TextView clsWEntry::entryWord(std::int32_t index) const {

@@ -4,29 +4,12 @@
 
 #include <cstdint>
 
-#include "common/packed_texts.h"
 #include "common/text.h"
 #include "glossary/entry_texts.h"
+#include "glossary/line_table.h"
 #include "glossary/search_run.h"
 
 namespace termvik {
-
-// The lines of a glossary file without their trailing blanks. Lines count from 1.
-class LineTable {
- public:
-  std::int32_t upperBound() const { return static_cast<std::int32_t>(lines_.size()); }
-  TextView operator[](std::int32_t line) const {
-    return lines_[static_cast<std::size_t>(line) - 1];
-  }
-  PackedTexts<char16_t>& lines() { return lines_; }
-  const PackedTexts<char16_t>& lines() const { return lines_; }
-
- private:
-  PackedTexts<char16_t> lines_;
-};
-
-// A line that ends a block: its first three characters equal "---".
-bool isSeparator(const Collation& collation, TextView line);
 
 class clsWEntry {
  public:
@@ -77,10 +60,8 @@ class clsWEntry {
     std::int32_t last = 0;
   };
 
-  bool findRange(const LineTable& arr, Range& range) const;
+  static bool findRange(const LineTable& arr, Range& range);
   void store(const LineTable& arr, const Range& range);
-  bool isCommentHead(TextView line) const;
-  bool isWordLine(TextView line) const;
   bool isOfType(std::int32_t index, TextView aWordType) const;
   TextView wordForCommentHit(TextView aWordType) const;
   bool nextWordOfType(TextView aWordType, TextView& lastWord) const;

@@ -2,32 +2,14 @@
 
 #include <utility>
 
-#include "common/codepage.h"
 #include "common/files.h"
 
 namespace termvik {
 
 namespace {
 
-// Lines and entries of a glossary address their characters with 32 bits; entries can need a little
-// more room than the lines that they come from.
-constexpr std::size_t kMostCharacters = PackedTexts<char16_t>::kMostCharacters / 2;
-
-// The size of a file as its lines show it, so that its table is made once and to measure.
-struct FileMeasure {
-  std::size_t lines = 0;
-  std::size_t characters = 0;
-};
-
-bool measureFile(const std::filesystem::path& fileName, FileMeasure& measure) {
-  LineReader reader(fileName);
-  std::string_view line;
-  while (reader.next(line)) {
-    ++measure.lines;
-    measure.characters += line.size();
-  }
-  return !reader.failed() && measure.characters <= kMostCharacters;
-}
+// The lines of a glossary address their characters with 32 bits.
+constexpr std::size_t kMostCharacters = PackedTexts<char16_t>::kMostCharacters;
 
 }  // namespace
 
@@ -74,32 +56,26 @@ bool defWords::readGlossaryFile(const std::filesystem::path& fileName, LineTable
     return false;
   }
   FileMeasure measure;
-  if (!measureFile(fileName, measure)) return false;
-  PackedTexts<char16_t>& table = lines.lines();
-  table.clear();
-  table.reserve(measure.lines, measure.characters);
+  if (!measureFile(fileName, measure) || measure.bytes > kMostCharacters) return false;
+  lines.reserve(measure.lines, measure.bytes);
   LineReader reader(fileName);
   std::string_view bytes;
-  Text line;
   bool grown = false;
   while (reader.next(bytes)) {
-    grown =
-        table.size() == measure.lines || table.characterCount() + bytes.size() > kMostCharacters;
+    grown = lines.size() == measure.lines || lines.characterCount() + bytes.size() > measure.bytes;
     if (grown) break;
-    line.clear();
-    decodeAnsi(bytes, line);
-    table.append(trimEnd(line));
+    lines.append(bytes);
   }
-  const bool anyStored = table.size() > 0;
-  while (table.size() < measure.lines) table.endText();
+  const bool anyStored = lines.size() > 0;
+  while (lines.size() < measure.lines) lines.append({});
   return anyStored && !grown && !reader.failed();
 }
 
-std::int32_t defWords::countBlocks(const LineTable& lines) const {
+std::int32_t defWords::countBlocks(const LineTable& lines) {
   std::int32_t blocks = 0;
   bool inBlock = false;
   for (std::int32_t i = 1; i <= lines.upperBound(); ++i) {
-    const bool isBlockLine = !isSeparator(*collation_, lines[i]);
+    const bool isBlockLine = lines.kind(i) != LineKind::Separator;
     if (isBlockLine && !inBlock) ++blocks;
     inBlock = isBlockLine;
   }
@@ -111,10 +87,7 @@ void defWords::decodeGlossary(Glossary& glossary, std::int32_t firstIndex,
   const std::int32_t blocks = countBlocks(glossary.lines);
   if (firstIndex == 1) entries_.clear();
   entries_.resize(static_cast<std::size_t>(firstIndex) - 1 + static_cast<std::size_t>(blocks));
-  const auto lineCount = static_cast<std::size_t>(glossary.lines.upperBound());
-  // A word is no longer than its line; the lines of a comment get a line end between them.
-  glossary.texts.reserve(lineCount + static_cast<std::size_t>(blocks),
-                         glossary.lines.lines().characterCount() + kLineEnd.size() * lineCount);
+  glossary.texts.reserve(glossary.lines.size() + static_cast<std::size_t>(blocks));
   std::int32_t cursor = 1;
   lastIndex = firstIndex - 1;
   for (std::int32_t block = 0; block < blocks; ++block) {

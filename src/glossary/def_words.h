@@ -47,7 +47,7 @@ class defWords {
  private:
   // One glossary's file: its lines as read and the texts of its entries.
   struct Glossary {
-    explicit Glossary(const Collation& collation) : texts(collation) {}
+    explicit Glossary(const Collation& collation) : lines(collation), texts(collation) {}
 
     LineTable lines;
     EntryTexts texts;
@@ -57,7 +57,7 @@ class defWords {
                     std::int32_t& lastIndex, Text& version);
   bool readGlossaryFile(const std::filesystem::path& fileName, LineTable& lines) const;
   void decodeGlossary(Glossary& glossary, std::int32_t firstIndex, std::int32_t& lastIndex);
-  std::int32_t countBlocks(const LineTable& lines) const;
+  static std::int32_t countBlocks(const LineTable& lines);
 
   const Collation* collation_;
   std::filesystem::path folder_;

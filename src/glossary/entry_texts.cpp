@@ -4,23 +4,15 @@
 
 namespace termvik {
 
-void EntryTexts::reserve(std::size_t texts, std::size_t characters) {
-  texts_.reserve(texts, characters);
-  types_.reserve(texts);
-}
-
 void EntryTexts::addWord(TextView word, char16_t wordType) {
-  texts_.append(word);
-  types_.push_back(wordType);
+  stored_.push_back({word.data(), static_cast<std::uint32_t>(word.size()), wordType});
   folded_.reset();
 }
-
-void EntryTexts::addComment(TextView comment) { addWord(comment, u'\0'); }
 
 const FoldedTexts& EntryTexts::folded() const {
   if (folded_) return *folded_;
   folded_.emplace();
-  folded_->letters.reserve(size(), texts_.characterCount() + size());
+  folded_->letters.reserve(size(), 0);
   std::vector<Letter> letters;
   for (std::size_t i = 0; i < size(); ++i) {
     letters.clear();

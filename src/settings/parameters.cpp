@@ -28,12 +28,7 @@ bool parameters::readParameters() {
   if (!fileExists(paramFilePath_)) return false;
   LineReader reader(paramFilePath_);
   std::string_view bytes;
-  Text line;
-  while (reader.next(bytes)) {
-    line.clear();
-    decodeAnsi(bytes, line);
-    readLine(trim(line));
-  }
+  while (reader.next(bytes)) readLine(trim(decodeAnsi(bytes)));
   return true;
 }
 
