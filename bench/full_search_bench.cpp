@@ -50,8 +50,12 @@ std::size_t search(defWords& store, const Terms& texts) {
   SearchRun run(std::move(terms));
   std::size_t hits = 0;
   TextView key;
-  for (std::int32_t i = store.gGraphFirst; i <= store.gToolsLast; ++i) {
-    if (store.gEntries(i).getGlossaryWordIfSearchedFor(store.gWordType, run, key)) ++hits;
+  for (const auto& [first, last] : {std::pair(store.gGraphFirst, store.gGraphLast),
+                                    std::pair(store.gToolsFirst, store.gToolsLast)}) {
+    for (std::int32_t i = store.nextCandidate(run, first, last); i <= last;
+         i = store.nextCandidate(run, i + 1, last)) {
+      if (store.gEntries(i).getGlossaryWordIfSearchedFor(store.gWordType, run, key)) ++hits;
+    }
   }
   return hits;
 }

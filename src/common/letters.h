@@ -41,9 +41,10 @@ class Letters {
 
   const CharacterLetters& of(char16_t character) const { return table_[character]; }
 
-  // Appends the letters of `text` to `out`. False, with `out` as it was, when a character of the
-  // text is not known.
-  bool append(TextView text, std::vector<Letter>& out) const;
+  // Writes the letters of `text` to `out`, which has room for kMost of each character, and gives
+  // their number; kUnknownText when a character of the text is not known.
+  std::size_t spell(TextView text, Letter* out) const;
+  static constexpr std::size_t kUnknownText = static_cast<std::size_t>(-1);
 
   // The place of a letter in the order, accents left out: 1 to 255.
   std::uint8_t rank(Letter letter) const { return ranks_[letter]; }

@@ -1,10 +1,7 @@
 #include "common/search_term.h"
 
 #include <algorithm>
-#include <cstring>
 #include <numeric>
-
-#include "common/find_bytes.h"
 
 namespace termvik {
 
@@ -13,9 +10,6 @@ namespace {
 // Longer terms go through a search whose cost does not grow with the term: a pasted text of one
 // letter 100,000 times over must not stall the program.
 constexpr std::size_t kLongTerm = 64;
-
-// One letter in so many is rare (bench/full_search_bench).
-constexpr std::uint64_t kRare = 100;
 
 // No collation joins more characters than this into one step.
 constexpr std::size_t kLongestContext = 4;
@@ -47,11 +41,7 @@ SearchTerm::SearchTerm(const Collation& collation, TextView term, const LetterCo
     : collation_(&collation), term_(term), elements_(collation.collator().elements(term)) {
   spell();
   if (!letters_ || letters_->empty()) return;
-  const auto rarest =
-      std::min_element(letters_->begin(), letters_->end(),
-                       [&counts](Letter a, Letter b) { return counts.at(a) < counts.at(b); });
-  const auto all = std::accumulate(counts.begin(), counts.end(), std::uint64_t{0});
-  if (std::uint64_t{counts.at(*rarest)} * kRare <= all) rareLetter_ = rarest - letters_->begin();
+  probes_ = rarestLetters(counts);
   if (letters_->size() > kLongTerm) prepareLongTerm();
 }
 
@@ -66,9 +56,10 @@ void SearchTerm::spell() {
 }
 
 bool SearchTerm::occursIn(TextView text) const {
-  std::vector<Letter> letters;
-  if (!collation_->letters().append(text, letters)) return occursByCollator(text);
-  return occursIn(text, LettersView(letters.data(), letters.size()));
+  std::vector<Letter> letters(text.size() * CharacterLetters::kMost);
+  const std::size_t count = collation_->letters().spell(text, letters.data());
+  if (count == Letters::kUnknownText) return occursByCollator(text);
+  return occursIn(text, LettersView(letters.data(), count));
 }
 
 bool SearchTerm::occursIn(TextView text, LettersView letters) const {
@@ -92,8 +83,7 @@ std::size_t SearchTerm::firstPlace(LettersView letters, Accept accept) const {
   if (letters.size() < term.size()) return kNotFound;
   if (term.size() > kLongTerm) return firstPlaceOfLongTerm(letters, accept);
   for (std::size_t from = 0; from + term.size() <= letters.size();) {
-    const LettersView rest = letters.substr(from);
-    const std::size_t found = rareLetter_ ? findByRareLetter(rest) : findBytes(rest, term);
+    const std::size_t found = findLetters(letters.substr(from), term, probes_);
     if (found == kNotFound) return kNotFound;
     if (accept(from + found)) return from + found;
     from += found + 1;
@@ -101,19 +91,16 @@ std::size_t SearchTerm::firstPlace(LettersView letters, Accept accept) const {
   return kNotFound;
 }
 
-// Where a letter of the term is rare, going from one to the next is the fastest way.
-std::size_t SearchTerm::findByRareLetter(LettersView letters) const {
-  const LettersView term(letters_->data(), letters_->size());
-  const std::size_t last = letters.size() - term.size();
-  for (std::size_t place = 0; place <= last; ++place) {
-    const void* found =
-        std::memchr(letters.data() + place + *rareLetter_, term[*rareLetter_], last - place + 1);
-    if (found == nullptr) return kNotFound;
-    place =
-        static_cast<std::size_t>(static_cast<const Letter*>(found) - letters.data()) - *rareLetter_;
-    if (std::memcmp(letters.data() + place, term.data(), term.size()) == 0) return place;
-  }
-  return kNotFound;
+// The indices of the term's rarest letters; of a short term some twice.
+Probes SearchTerm::rarestLetters(const LetterCounts& counts) const {
+  std::vector<std::size_t> indices(letters_->size());
+  std::iota(indices.begin(), indices.end(), 0);
+  std::stable_sort(indices.begin(), indices.end(), [&](std::size_t a, std::size_t b) {
+    return counts.at((*letters_)[a]) < counts.at((*letters_)[b]);
+  });
+  Probes rarest{};
+  for (std::size_t i = 0; i < rarest.size(); ++i) rarest[i] = indices[i % indices.size()];
+  return rarest;
 }
 
 // The search of Knuth, Morris and Pratt: reads every letter once.

@@ -7,15 +7,13 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 #include "common/collation.h"
+#include "common/find_letters.h"
 #include "common/text.h"
 
 namespace termvik {
-
-using LettersView = std::basic_string_view<Letter>;
 
 // How often each letter stands in the texts to be searched; a hint for speed only.
 using LetterCounts = std::array<std::uint32_t, 256>;
@@ -42,10 +40,10 @@ class SearchTerm {
   template <class Accept>
   std::size_t firstPlaceOfLongTerm(LettersView letters, Accept accept) const;
 
-  std::size_t findByRareLetter(LettersView letters) const;
   bool occursByCollator(TextView text) const;
   bool equalsStretchNear(TextView text, std::size_t start, std::size_t end) const;
   void spell();
+  Probes rarestLetters(const LetterCounts& counts) const;
   void prepareLongTerm();
 
   const Collation* collation_;
@@ -53,7 +51,7 @@ class SearchTerm {
   std::vector<CollationElement> elements_;
   std::optional<std::vector<Letter>> letters_;  // none when no text of known characters has them
   Letter firstLetter_ = kNoLetter;              // kNoLetter when no known character begins with it
-  std::optional<std::size_t> rareLetter_;       // index of the term's rarest letter if it is rare
+  Probes probes_{};
   std::vector<std::size_t> restarts_;  // of a long term: behind each letter, how many of the
                                        // letters up to it are also the term's beginning
 };

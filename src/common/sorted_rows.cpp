@@ -41,9 +41,11 @@ SortedRows::Entry SortedRows::makeEntry(TextView text) {
 }
 
 void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
-  scratch_.clear();
   const Letters& letters = collation_->letters();
-  if (!letters.append(text, scratch_)) return;  // without a key the collator compares the texts
+  scratch_.resize(text.size() * CharacterLetters::kMost);
+  const std::size_t count = letters.spell(text, scratch_.data());
+  if (count == Letters::kUnknownText) return;  // without a key the collator compares the texts
+  scratch_.resize(count);
   scratchKey_.clear();
   bool plain = true;
   for (const Letter letter : scratch_) {

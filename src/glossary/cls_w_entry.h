@@ -38,6 +38,15 @@ class clsWEntry {
     return true;
   }
 
+  // For walks from hit to hit: the next text from the entry's first on in which a term can occur, and
+  // whether all texts of the entry lie before a text.
+  std::size_t nextCandidate(SearchRun& search) const {
+    return search.nextCandidate(*texts_, firstText_);
+  }
+  bool liesBefore(std::size_t text) const {
+    return firstText_ + static_cast<std::size_t>(entryWordCount_) < text;
+  }
+
   // The entry as the user reads it: the words of `aWordType` on the first line, the others below,
   // then the comment. Lines are joined by CR LF.
   Text getArticle(TextView aWordType) const;

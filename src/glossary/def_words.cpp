@@ -1,5 +1,6 @@
 #include "glossary/def_words.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "common/files.h"
@@ -97,6 +98,24 @@ void defWords::decodeGlossary(Glossary& glossary, std::int32_t firstIndex,
     ++lastIndex;
     gEntries(lastIndex) = entry;
   }
+}
+
+// Goes from one text to the next in widening steps: to ask each entry on the way would take as long
+// as the search itself (bench/full_search).
+std::int32_t defWords::nextCandidate(SearchRun& search, std::int32_t from,
+                                     std::int32_t last) const {
+  auto entry = entries_.begin() + from - 1;
+  const auto end = entries_.begin() + last;
+  if (entry >= end) return from;
+  const std::size_t text = entry->nextCandidate(search);
+  const auto liesBefore = [text](const clsWEntry& other) { return other.liesBefore(text); };
+  std::ptrdiff_t step = 1;
+  while (end - entry > step && liesBefore(entry[step])) {
+    entry += step;
+    step *= 2;
+  }
+  entry = std::partition_point(entry, entry + std::min(step + 1, end - entry), liesBefore);
+  return static_cast<std::int32_t>(entry - entries_.begin()) + 1;
 }
 
 LetterCounts defWords::letterCounts() const {

@@ -32,6 +32,10 @@ class defWords {
   std::int32_t gToolsFirst = 0;
   std::int32_t gToolsLast = 0;
 
+  // The first entry from `from` to `last`, all of one glossary, that can have a term of `search`;
+  // last + 1 when none can.
+  std::int32_t nextCandidate(SearchRun& search, std::int32_t from, std::int32_t last) const;
+
   // Which file each glossary was read from and its first line: three lines joined by CR LF.
   Text gGraphVersion;
   Text gToolsVersion;
@@ -41,7 +45,7 @@ class defWords {
 
   const Collation& collation() const { return *collation_; }
 
-  // How often each letter stands in the entries of both glossaries.
+  // How often each letter stands in some of the entries of both glossaries.
   LetterCounts letterCounts() const;
 
  private:

@@ -4,6 +4,16 @@
 
 namespace termvik {
 
+namespace {
+
+// There is room for one letter more in so many characters before the letters have to move.
+constexpr std::size_t kMoreLetters = 16;
+
+// The letters of one text in so many are counted.
+constexpr std::size_t kCounted = 16;
+
+}  // namespace
+
 void EntryTexts::addWord(TextView word, char16_t wordType) {
   stored_.push_back({word.data(), static_cast<std::uint32_t>(word.size()), wordType});
   folded_.reset();
@@ -12,14 +22,21 @@ void EntryTexts::addWord(TextView word, char16_t wordType) {
 const FoldedTexts& EntryTexts::folded() const {
   if (folded_) return *folded_;
   folded_.emplace();
-  folded_->letters.reserve(size(), 0);
-  std::vector<Letter> letters;
+  PackedTexts<Letter>& folded = folded_->letters;
+  std::size_t characters = 0;
+  for (const Stored& stored : stored_) characters += stored.length + 1;
+  folded.reserve(size(), characters + characters / kMoreLetters);
   for (std::size_t i = 0; i < size(); ++i) {
-    letters.clear();
-    if (!collation_->letters().append(text(i), letters)) folded_->unknown.push_back(i);
-    for (const Letter letter : letters) ++folded_->counts[letter];
-    letters.push_back(kNoLetter);
-    folded_->letters.append({letters.data(), letters.size()});
+    Letter* const room = folded.roomFor(text(i).size() * CharacterLetters::kMost + 1);
+    std::size_t count = collation_->letters().spell(text(i), room);
+    if (count == Letters::kUnknownText) {
+      folded_->unknown.push_back(i);
+      count = 0;
+    }
+    if (i % kCounted == 0) std::for_each(room, room + count, [&](Letter l) { ++folded_->counts[l]; });
+    room[count] = kNoLetter;
+    folded.takeRoom(count + 1);
+    folded.endText();
   }
   return *folded_;
 }

@@ -18,7 +18,7 @@ namespace termvik {
 struct FoldedTexts {
   PackedTexts<Letter> letters;
   std::vector<std::size_t> unknown;  // rising: the texts that have characters without letters
-  LetterCounts counts{};
+  LetterCounts counts{};  // in some of the texts
 };
 
 class EntryTexts {
@@ -42,7 +42,7 @@ class EntryTexts {
   // The first text from `first` on in which `term` occurs; size() when there is none.
   std::size_t firstWith(const SearchTerm& term, std::size_t first) const;
 
-  // How often each letter stands in the texts.
+  // How often each letter stands in some of the texts.
   const LetterCounts& letterCounts() const;
 
  private:

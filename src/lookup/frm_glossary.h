@@ -48,7 +48,7 @@ class frmGlossary {
   void fillWordList();
   void addEntryWords(std::int32_t entryIndex);
   template <class Visit>
-  void visitChosenEntries(Visit visit);
+  void visitChosenGlossaries(Visit visit);
   void moveInList(std::int32_t first, std::int32_t last);
   void showSelectedArticle();
   void placeSelection();
@@ -118,16 +118,12 @@ class frmGlossary {
 // with a double quote and run to the next one. Later terms are dropped.
 std::vector<TextView> splitSearchWords(const Collation& collation, TextView searchText);
 
-// Calls `visit` with the table index of each entry of the chosen glossaries, in the table's order.
+// Calls `visit` with the first and the last table index of each chosen glossary.
 template <class Visit>
-void frmGlossary::visitChosenEntries(Visit visit) {
+void frmGlossary::visitChosenGlossaries(Visit visit) {
   const bool both = optGlossary_.Value(2);
-  if (both || optGlossary_.Value(0)) {
-    for (std::int32_t i = words_.gGraphFirst; i <= words_.gGraphLast; ++i) visit(i);
-  }
-  if (both || optGlossary_.Value(1)) {
-    for (std::int32_t i = words_.gToolsFirst; i <= words_.gToolsLast; ++i) visit(i);
-  }
+  if (both || optGlossary_.Value(0)) visit(words_.gGraphFirst, words_.gGraphLast);
+  if (both || optGlossary_.Value(1)) visit(words_.gToolsFirst, words_.gToolsLast);
 }
 
 }  // namespace termvik

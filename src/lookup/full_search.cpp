@@ -48,7 +48,12 @@ void frmGlossary::cmdSearchAgain_Click() {
   SearchRun search(std::move(terms));
   lstWords_.Clear();
   txtArticle_.setText({});
-  visitChosenEntries([&](std::int32_t i) { addEntryIfSearched(i, search); });
+  visitChosenGlossaries([&](std::int32_t first, std::int32_t last) {
+    for (std::int32_t i = words_.nextCandidate(search, first, last); i <= last;
+         i = words_.nextCandidate(search, i + 1, last)) {
+      addEntryIfSearched(i, search);
+    }
+  });
   moveInList(0, 0);
 }
 

@@ -18,7 +18,9 @@ void frmGlossary::selectGlossary(std::int16_t Index) {
 
 void frmGlossary::fillWordList() {
   lstWords_.Clear();
-  visitChosenEntries([this](std::int32_t i) { addEntryWords(i); });
+  visitChosenGlossaries([this](std::int32_t first, std::int32_t last) {
+    for (std::int32_t i = first; i <= last; ++i) addEntryWords(i);
+  });
   if (chkShowDoublet_.Value() == 1) markDoublets();
 }
 
