@@ -43,7 +43,7 @@ std::size_t findLetters(LettersView letters, LettersView wanted, const Probes& p
       continue;
     }
     for (const std::size_t end = std::min(place + kStride, places); place < end; ++place) {
-      const bool found = a.agreesAt(place) != 0 &&
+      const bool found = (a.agreesAt(place) & b.agreesAt(place) & c.agreesAt(place)) != 0 &&
                          std::memcmp(letters.data() + place, wanted.data(), wanted.size()) == 0;
       if (found) return place;
     }

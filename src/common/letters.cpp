@@ -1,6 +1,7 @@
 #include "common/letters.h"
 
 #include <algorithm>
+#include <cstring>
 #include <limits>
 #include <set>
 #include <utility>
@@ -79,16 +80,18 @@ void Letters::rankLetters() {
   }
 }
 
-std::size_t Letters::spell(TextView text, Letter* out) const {
+Letters::Spelling Letters::spell(TextView text, Letter* out) const {
   Letter* next = out;
+  unsigned otherThanOne = 0;
   for (const char16_t character : text) {
     const CharacterLetters& entry = of(character);
-    if (!entry.known()) return kUnknownText;
-    // Writes what does not count too: that is quicker than to ask how many count (bench/full_search).
-    std::copy(entry.letters.begin(), entry.letters.end(), next);
+    if (!entry.known()) return {.known = false, .oneLetterEach = false};
+    // Writes more than counts, always as much: quicker than to look how much (bench/full_search).
+    std::memcpy(next, &entry, sizeof entry);
     next += entry.count;
+    otherThanOne |= entry.count ^ 1U;
   }
-  return static_cast<std::size_t>(next - out);
+  return {.count = static_cast<std::size_t>(next - out), .oneLetterEach = otherThanOne == 0};
 }
 
 Letter Letters::letterAt(const std::vector<CollationElement>& elements, std::size_t& next) const {

@@ -27,8 +27,8 @@ struct CharacterLetters {
   static constexpr std::size_t kMost = 3;
   static constexpr std::uint8_t kUnknown = 0xFF;
 
-  std::uint8_t count = kUnknown;
   std::array<Letter, kMost> letters{};
+  std::uint8_t count = kUnknown;
 
   bool known() const { return count != kUnknown; }
 };
@@ -41,10 +41,17 @@ class Letters {
 
   const CharacterLetters& of(char16_t character) const { return table_[character]; }
 
-  // Writes the letters of `text` to `out`, which has room for kMost of each character, and gives
-  // their number; kUnknownText when a character of the text is not known.
-  std::size_t spell(TextView text, Letter* out) const;
-  static constexpr std::size_t kUnknownText = static_cast<std::size_t>(-1);
+  struct Spelling {
+    std::size_t count = 0;      // letters
+    bool known = true;          // false: a character of the text is not known
+    bool oneLetterEach = true;  // every character is one letter
+  };
+
+  // Writes the letters of a known text to `out`, which has roomFor(text).
+  Spelling spell(TextView text, Letter* out) const;
+  static std::size_t roomFor(TextView text) {
+    return text.size() * CharacterLetters::kMost + sizeof(CharacterLetters);
+  }
 
   // The place of a letter in the order, accents left out: 1 to 255.
   std::uint8_t rank(Letter letter) const { return ranks_[letter]; }

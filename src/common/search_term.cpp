@@ -56,18 +56,18 @@ void SearchTerm::spell() {
 }
 
 bool SearchTerm::occursIn(TextView text) const {
-  std::vector<Letter> letters(text.size() * CharacterLetters::kMost);
-  const std::size_t count = collation_->letters().spell(text, letters.data());
-  if (count == Letters::kUnknownText) return occursByCollator(text);
-  return occursIn(text, LettersView(letters.data(), count));
+  std::vector<Letter> letters(Letters::roomFor(text));
+  const Letters::Spelling spelling = collation_->letters().spell(text, letters.data());
+  if (!spelling.known) return occursByCollator(text);
+  return occursIn(text, LettersView(letters.data(), spelling.count));
 }
 
 bool SearchTerm::occursIn(TextView text, LettersView letters) const {
   if (!letters_) return false;
-  CharacterEdges begins(collation_->letters(), text);
-  CharacterEdges ends(collation_->letters(), text);
+  CharacterEdges edges(collation_->letters(), text);
   return firstPlace(letters, [&](std::size_t place) {
-           return begins.isEdge(place) && ends.isEdge(place + letters_->size());
+           if (!edges.isEdge(place)) return false;
+           return CharacterEdges(edges).isEdge(place + letters_->size());
          }) != kNotFound;
 }
 

@@ -42,10 +42,10 @@ SortedRows::Entry SortedRows::makeEntry(TextView text) {
 
 void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
   const Letters& letters = collation_->letters();
-  scratch_.resize(text.size() * CharacterLetters::kMost);
-  const std::size_t count = letters.spell(text, scratch_.data());
-  if (count == Letters::kUnknownText) return;  // without a key the collator compares the texts
-  scratch_.resize(count);
+  scratch_.resize(Letters::roomFor(text));
+  const Letters::Spelling spelling = letters.spell(text, scratch_.data());
+  if (!spelling.known) return;  // without a key the collator compares the texts
+  scratch_.resize(spelling.count);
   scratchKey_.clear();
   bool plain = true;
   for (const Letter letter : scratch_) {
@@ -61,7 +61,7 @@ void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
   const bool dense =
       std::all_of(text.begin(), text.end(), [&](char16_t c) { return letters.of(c).count > 0; });
   if (dense) entry.id |= kDense;
-  if (dense && plain && scratch_.size() == text.size()) entry.id |= kPlain;
+  if (plain && spelling.oneLetterEach) entry.id |= kPlain;
 }
 
 TextView SortedRows::textOf(const Entry& entry) const {

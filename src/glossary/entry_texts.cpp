@@ -27,15 +27,15 @@ const FoldedTexts& EntryTexts::folded() const {
   for (const Stored& stored : stored_) characters += stored.length + 1;
   folded.reserve(size(), characters + characters / kMoreLetters);
   for (std::size_t i = 0; i < size(); ++i) {
-    Letter* const room = folded.roomFor(text(i).size() * CharacterLetters::kMost + 1);
-    std::size_t count = collation_->letters().spell(text(i), room);
-    if (count == Letters::kUnknownText) {
-      folded_->unknown.push_back(i);
-      count = 0;
+    Letter* const room = folded.roomFor(Letters::roomFor(text(i)));
+    const Letters::Spelling spelling = collation_->letters().spell(text(i), room);
+    if (!spelling.known) folded_->unknown.push_back(i);
+    folded_->oneLetterEach.push_back(spelling.oneLetterEach);
+    if (i % kCounted == 0) {
+      std::for_each(room, room + spelling.count, [this](Letter l) { ++folded_->counts[l]; });
     }
-    if (i % kCounted == 0) std::for_each(room, room + count, [&](Letter l) { ++folded_->counts[l]; });
-    room[count] = kNoLetter;
-    folded.takeRoom(count + 1);
+    room[spelling.count] = kNoLetter;
+    folded.takeRoom(spelling.count + 1);
     folded.endText();
   }
   return *folded_;
@@ -66,6 +66,8 @@ std::size_t EntryTexts::firstKnownWith(const SearchTerm& term, std::size_t first
     const std::size_t hit = term.find(rest);
     if (hit == SearchTerm::kNotFound) break;
     index = letters.indexAt(begin + hit, index);
+    // Without a look at the text itself where that is not needed: it lies far away.
+    if (folded().oneLetterEach[index]) return index;
     if (term.occursIn(text(index), lettersOf(folded(), index))) return index;
     ++index;
   }
