@@ -1,12 +1,16 @@
 // Runs the benchmarks of one executable and prints a line for each. The exit status is 1 when one
 // of them is over its limit.
 #include <cstdio>
+#include <set>
+#include <string>
 
 #include "side_by_side.h"
 
 namespace {
 
 using namespace termvik::bench;
+
+const std::set<std::string> kColumns = {"time", "pass", "ratio", "limit"};
 
 class LineReporter : public benchmark::BenchmarkReporter {
  public:
@@ -34,9 +38,13 @@ class LineReporter : public benchmark::BenchmarkReporter {
     std::printf("%-28s%7s%11.3f%11.3f%8.2f", run.run_name.function_name.c_str(),
                 run.run_name.args.c_str(), 1e3 * value("time"), 1e3 * value("pass"),
                 value("ratio"));
-    std::printf("%6s", judged ? std::to_string(static_cast<int>(limit)).c_str() : "-");
-    for (const char* extra : {kAllocations, kHits}) {
-      if (run.counters.count(extra) != 0) std::printf("  %s %.0f", extra, value(extra));
+    if (judged) {
+      std::printf("%6.2g", limit);
+    } else {
+      std::printf("%6s", "-");
+    }
+    for (const auto& [name, counter] : run.counters) {
+      if (kColumns.count(name) == 0) std::printf("  %s %.6g", name.c_str(), counter.value);
     }
     const bool over = (judged && value("ratio") > limit) || value(kAllocations) > kMostAllocations;
     std::puts(over ? "  OVER" : "");
