@@ -47,12 +47,13 @@ struct PlainEntries {
 
   std::unique_ptr<char16_t[]> characters;
   std::vector<Piece> pieces;
-  std::vector<char16_t> types;            // of each text
+  std::vector<char16_t> types;             // of each text
   std::vector<std::uint32_t> firstPieces;  // of each entry
 };
 
 PlainEntries parse(std::string_view bytes, const Text& decoded) {
-  PlainEntries entries{.characters = std::make_unique_for_overwrite<char16_t[]>(bytes.size())};
+  PlainEntries entries;
+  entries.characters = std::make_unique_for_overwrite<char16_t[]>(bytes.size());
   char16_t type = 0;
   bool inEntry = false;
   for (std::size_t begin = 0; begin < bytes.size();) {
@@ -67,14 +68,14 @@ PlainEntries parse(std::string_view bytes, const Text& decoded) {
     if (end - begin >= 3 && line[0] == u'-' && line[1] == u'-' && line[2] == u'-') {
       inEntry = false;
     } else {
-      if (!inEntry) entries.firstPieces.push_back(static_cast<std::uint32_t>(entries.pieces.size()));
+      if (!inEntry)
+        entries.firstPieces.push_back(static_cast<std::uint32_t>(entries.pieces.size()));
       inEntry = true;
       if (end - begin >= 3 && line[1] == u':') {
         type = line[0];
         text = begin + 3;
       }
-      entries.pieces.push_back(
-          {static_cast<std::uint32_t>(text), static_cast<std::uint32_t>(end)});
+      entries.pieces.push_back({static_cast<std::uint32_t>(text), static_cast<std::uint32_t>(end)});
       entries.types.push_back(type);
     }
     begin = end + 2;

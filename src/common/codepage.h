@@ -10,7 +10,8 @@
 namespace termvik {
 
 // Writes `bytes` to `out` as characters and gives their number, which is never above that of the
-// bytes. The five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so on.
+// bytes. The five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so
+// on.
 std::size_t decodeAnsi(std::string_view bytes, char16_t* out);
 inline Text decodeAnsi(std::string_view bytes) {
   Text text(bytes.size(), u'\0');

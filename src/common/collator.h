@@ -21,6 +21,13 @@ struct CollationElement {
   std::int32_t end = 0;         // characters of the text used up behind this element
 };
 
+// Characters that the judge places elsewhere than the platform's own order of the locale does.
+struct Tailoring {
+  TextView characters;
+  TextView base;
+  bool accented = false;  // they are `base` with an accent above all its others, or else equal it
+};
+
 class Collator {
  public:
   // `localeName` as the platform writes it ("sv_SE"); "C", "POSIX" and "" stand for Swedish, and so
@@ -32,6 +39,13 @@ class Collator {
 
   // Negative, 0 or positive as `a` sorts before, equal to or after `b`. Allocates nothing.
   int compare(TextView a, TextView b) const;
+
+  enum class Strength { Letters, Accents };  // what counts: letters alone, or their accents too
+
+  // The platform's own order of the locale: the judge's but for the tailorings. It is there at
+  // once, where the judge has to be made when it is first asked.
+  int compareUntailored(TextView a, TextView b, Strength strength) const;
+  std::vector<Tailoring> tailorings() const;
 
   // The elements of `text` in their order, the ones that do not count left out.
   std::vector<CollationElement> elements(TextView text) const;

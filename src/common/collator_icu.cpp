@@ -17,8 +17,20 @@ namespace {
 constexpr const char* kDefaultLocale = "sv";
 
 // What makes ICU agree with the other platforms on every letter.
-constexpr TextView kLigatureRules = u"&ss<<<ß<<<ẞ&ae<<<æ<<<Æ&oe<<<œ<<<Œ";
-constexpr TextView kSwedishRules = u"&o<<ô<<<Ô";  // the locale's own rules file ô under ö
+const std::vector<Tailoring> kLigatures = {{u"ßẞ", u"ss"}, {u"æÆ", u"ae"}, {u"œŒ", u"oe"}};
+constexpr Tailoring kSwedish = {u"ôÔ", u"o", true};  // the locale's own rules file ô under ö
+
+// The same as rules of ICU.
+Text rulesOf(const std::vector<Tailoring>& tailorings) {
+  Text rules;
+  for (const auto& [characters, base, accented] : tailorings) {
+    rules.append(u"&").append(base);
+    for (std::size_t i = 0; i < characters.size(); ++i) {
+      rules.append(accented && i == 0 ? u"<<" : u"<<<").append(characters, i, 1);
+    }
+  }
+  return rules;
+}
 
 std::string languageOf(const std::string& locale) {
   std::array<char, ULOC_LANG_CAPACITY> language{};
@@ -39,52 +51,85 @@ std::string canonicalName(const std::string& name) {
   return U_SUCCESS(error) ? canonical.data() : "";
 }
 
-UCollator* openCollator(const std::string& name) {
-  UErrorCode error = U_ZERO_ERROR;
-  const std::string locale = canonicalName(name);
-  UCollator* plain = ucol_open(locale.c_str(), &error);
-  if (U_FAILURE(error)) return nullptr;
-  std::int32_t length = 0;
-  const UChar* localeRules = ucol_getRules(plain, &length);
-  Text rules(localeRules, static_cast<std::size_t>(length));
-  ucol_close(plain);
-  rules += kLigatureRules;
-  if (languageOf(locale) == "sv") rules += kSwedishRules;
-  UCollator* tailored = ucol_openRules(rules.data(), static_cast<std::int32_t>(rules.size()),
-                                       UCOL_DEFAULT, UCOL_SECONDARY, nullptr, &error);
-  return U_SUCCESS(error) ? tailored : nullptr;
-}
-
 std::int32_t size32(TextView text) { return static_cast<std::int32_t>(text.size()); }
+
+struct CollatorCloser {
+  void operator()(UCollator* collator) const { ucol_close(collator); }
+};
+using IcuCollator = std::unique_ptr<UCollator, CollatorCloser>;
+
+int compareWith(const IcuCollator& collator, TextView a, TextView b) {
+  return ucol_strcoll(collator.get(), a.data(), size32(a), b.data(), size32(b));
+}
 
 }  // namespace
 
 struct Collator::Platform {
-  UCollator* collator = nullptr;
+  std::string locale;
+  IcuCollator plain;     // without the tailorings
+  IcuCollator letters;   // the same, comparing letters alone
+  IcuCollator tailored;  // the judge; ICU takes its time to make one from rules
+
+  bool open(const std::string& name) {
+    UErrorCode error = U_ZERO_ERROR;
+    locale = canonicalName(name);
+    plain.reset(ucol_open(locale.c_str(), &error));
+    if (U_FAILURE(error)) return false;
+    ucol_setStrength(plain.get(), UCOL_SECONDARY);
+    letters.reset(ucol_clone(plain.get(), &error));
+    if (U_FAILURE(error)) return false;
+    ucol_setStrength(letters.get(), UCOL_PRIMARY);
+    return true;
+  }
+
+  std::vector<Tailoring> tailorings() const {
+    std::vector<Tailoring> all = kLigatures;
+    if (languageOf(locale) == "sv") all.push_back(kSwedish);
+    return all;
+  }
+
+  const IcuCollator& judge() {
+    if (tailored) return tailored;
+    UErrorCode error = U_ZERO_ERROR;
+    std::int32_t length = 0;
+    const UChar* localeRules = ucol_getRules(plain.get(), &length);
+    const Text rules = Text(localeRules, static_cast<std::size_t>(length)) + rulesOf(tailorings());
+    tailored.reset(ucol_openRules(rules.data(), static_cast<std::int32_t>(rules.size()),
+                                  UCOL_DEFAULT, UCOL_SECONDARY, nullptr, &error));
+    if (U_FAILURE(error)) std::abort();  // ICU knows all of these rules
+    return tailored;
+  }
 
   UColAttributeValue attribute(UColAttribute which) const {
     UErrorCode error = U_ZERO_ERROR;
-    return ucol_getAttribute(collator, which, &error);
+    return ucol_getAttribute(plain.get(), which, &error);
   }
 };
 
 Collator::Collator(const std::string& localeName) : platform_(std::make_unique<Platform>()) {
-  if (!isNoLocale(localeName)) platform_->collator = openCollator(localeName);
-  if (platform_->collator == nullptr) platform_->collator = openCollator(kDefaultLocale);
-  if (platform_->collator == nullptr) std::abort();  // ICU without its data: nothing can be sorted
+  if (!isNoLocale(localeName) && platform_->open(localeName)) return;
+  if (!platform_->open(kDefaultLocale))
+    std::abort();  // ICU without its data: nothing can be sorted
 }
 
-Collator::~Collator() { ucol_close(platform_->collator); }
+Collator::~Collator() = default;
 
 int Collator::compare(TextView a, TextView b) const {
-  return ucol_strcoll(platform_->collator, a.data(), size32(a), b.data(), size32(b));
+  return compareWith(platform_->judge(), a, b);
 }
+
+int Collator::compareUntailored(TextView a, TextView b, Strength strength) const {
+  const bool lettersAlone = strength == Strength::Letters;
+  return compareWith(lettersAlone ? platform_->letters : platform_->plain, a, b);
+}
+
+std::vector<Tailoring> Collator::tailorings() const { return platform_->tailorings(); }
 
 std::vector<CollationElement> Collator::elements(TextView text) const {
   std::vector<CollationElement> result;
   UErrorCode error = U_ZERO_ERROR;
   UCollationElements* walk =
-      ucol_openElements(platform_->collator, text.data(), size32(text), &error);
+      ucol_openElements(platform_->judge().get(), text.data(), size32(text), &error);
   if (U_FAILURE(error)) return result;
   for (std::int32_t order = ucol_next(walk, &error); order != UCOL_NULLORDER;
        order = ucol_next(walk, &error)) {
@@ -107,7 +152,8 @@ std::vector<CollationElement> Collator::elements(TextView text) const {
 
 bool Collator::comparesByElements() const {
   UErrorCode error = U_ZERO_ERROR;
-  const bool reordersScripts = ucol_getReorderCodes(platform_->collator, nullptr, 0, &error) != 0;
+  const bool reordersScripts =
+      ucol_getReorderCodes(platform_->plain.get(), nullptr, 0, &error) != 0;
   return !reordersScripts && platform_->attribute(UCOL_FRENCH_COLLATION) == UCOL_OFF &&
          platform_->attribute(UCOL_ALTERNATE_HANDLING) == UCOL_NON_IGNORABLE &&
          platform_->attribute(UCOL_CASE_LEVEL) == UCOL_OFF &&
@@ -115,23 +161,22 @@ bool Collator::comparesByElements() const {
 }
 
 Text Collator::contextCharacters(TextView characters) const {
-  Text result;
+  Text result = u"·";  // the order that all locales go out from joins it to an l
   UErrorCode error = U_ZERO_ERROR;
-  USet* contractions = uset_openEmpty();
-  ucol_getContractionsAndExpansions(platform_->collator, contractions, nullptr, true, &error);
-  for (std::int32_t i = 0; i < uset_getItemCount(contractions); ++i) {
+  USet* tailored = ucol_getTailoredSet(platform_->plain.get(), &error);
+  for (std::int32_t i = 0; i < uset_getItemCount(tailored); ++i) {
     UChar32 start = 0;
     UChar32 end = 0;
     std::array<UChar, 64> sequence{};
     UErrorCode itemError = U_ZERO_ERROR;
     const std::int32_t length =
-        uset_getItem(contractions, i, &start, &end, sequence.data(), sequence.size(), &itemError);
+        uset_getItem(tailored, i, &start, &end, sequence.data(), sequence.size(), &itemError);
     if (length < 2 || U_FAILURE(itemError)) continue;  // a plain range of characters
     const TextView joined(sequence.data(), static_cast<std::size_t>(length));
     if (joined.find_first_not_of(characters) != TextView::npos) continue;
     result.append(joined.substr(1));
   }
-  uset_close(contractions);
+  uset_close(tailored);
   return result;
 }
 

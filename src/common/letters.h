@@ -10,9 +10,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <tuple>
 #include <vector>
 
+#include "common/alphabet.h"
 #include "common/collator.h"
 #include "common/text.h"
 
@@ -24,7 +24,7 @@ inline constexpr Letter kNoLetter = 0;  // ends or separates letters; never a le
 
 // The letters of one character.
 struct CharacterLetters {
-  static constexpr std::size_t kMost = 3;
+  static constexpr std::size_t kMost = Alphabet::kLongestSpelling;
   static constexpr std::uint8_t kUnknown = 0xFF;
 
   std::array<Letter, kMost> letters{};
@@ -59,26 +59,9 @@ class Letters {
   // True for the first of all letters of its rank, the one without an accent.
   bool isPlain(Letter letter) const { return rank(letter) != rank(letter - 1); }
 
-  // The letter that consists of these elements of a text, kNoLetter when no known character does.
-  // `next` comes in as the index of the first element and goes to the one behind the letter.
-  Letter letterAt(const std::vector<CollationElement>& elements, std::size_t& next) const;
-
  private:
-  // A letter's collation: its primary weight and all its secondary weights.
-  struct Weights {
-    std::uint32_t primary = 0;
-    std::vector<std::uint32_t> secondaries;
-    bool operator==(const Weights&) const = default;
-    bool operator<(const Weights& other) const {
-      return std::tie(primary, secondaries) < std::tie(other.primary, other.secondaries);
-    }
-  };
+  void addSpelled(char16_t character, TextView spelling);
 
-  static Weights weightsAt(const std::vector<CollationElement>& elements, std::size_t& next);
-  static bool ranksLetterByLetter(const std::vector<Weights>& sorted);
-  void rankLetters();
-
-  std::vector<Weights> weights_;  // of letter i + 1, rising
   std::array<std::uint8_t, 256> ranks_{};
   std::vector<CharacterLetters> table_;  // by character
 };

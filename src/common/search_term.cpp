@@ -2,6 +2,10 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
+
+#include "common/codepage.h"
+#include "common/letter_weights.h"
 
 namespace termvik {
 
@@ -46,13 +50,19 @@ SearchTerm::SearchTerm(const Collation& collation, TextView term, const LetterCo
 }
 
 void SearchTerm::spell() {
-  std::vector<Letter> letters;
-  for (std::size_t next = 0; next < elements_.size();) {
-    letters.push_back(collation_->letters().letterAt(elements_, next));
-    firstLetter_ = letters.front();
-    if (letters.back() == kNoLetter) return;
+  const Letters& letters = collation_->letters();
+  std::vector<Letter> spelled(Letters::roomFor(term_));
+  const Letters::Spelling spelling = letters.spell(term_, spelled.data());
+  spelled.resize(spelling.count);
+  if (!spelling.known) {
+    const LetterWeights weights(collation_->collator(), letters, ansiCharacters());
+    for (std::size_t next = 0; next < elements_.size();) {
+      spelled.push_back(weights.letterAt(elements_, next));
+      if (spelled.back() == kNoLetter) break;
+    }
   }
-  letters_ = std::move(letters);
+  if (!spelled.empty()) firstLetter_ = spelled.front();
+  if (spelled.empty() || spelled.back() != kNoLetter) letters_ = std::move(spelled);
 }
 
 bool SearchTerm::occursIn(TextView text) const {

@@ -38,8 +38,8 @@ class clsWEntry {
     return true;
   }
 
-  // For walks from hit to hit: the next text from the entry's first on in which a term can occur, and
-  // whether all texts of the entry lie before a text.
+  // For walks from hit to hit: the next text from the entry's first on in which a term can occur,
+  // and whether all texts of the entry lie before a text.
   std::size_t nextCandidate(SearchRun& search) const {
     return search.nextCandidate(*texts_, firstText_);
   }

@@ -19,7 +19,7 @@ struct FoldedTexts {
   PackedTexts<Letter> letters;
   std::vector<std::size_t> unknown;  // rising: the texts that have characters without letters
   std::vector<bool> oneLetterEach;   // by text: no place is inside of a character
-  LetterCounts counts{};  // in some of the texts
+  LetterCounts counts{};             // in some of the texts
 };
 
 class EntryTexts {
