@@ -1,9 +1,10 @@
 // A key stroke: one edit of the search text, with all that the program does before the next one,
-// against one plain pass over the rows of the list.
+// against one pass over the ready weights of the list's rows.
 #include <cstdlib>
 #include <map>
 #include <new>
 
+#include "packed_weights.h"
 #include "sample_program.h"
 #include "side_by_side.h"
 
@@ -26,20 +27,31 @@ namespace termvik::bench {
 
 namespace {
 
-constexpr double kLimit = 2;
-constexpr std::int64_t kJudged = 32000;  // rows
+constexpr double kLimit = 3;
 
-SampleProgram& programOf(std::int64_t rows) {
-  static std::map<std::int64_t, SampleProgram> programs;
-  return programs.try_emplace(rows, rows).first->second;
+struct Typed {
+  explicit Typed(std::int64_t rows)
+      : program(rows), weights(swedish(), swedishWords(*loadedStore(rows))) {
+    weights.sort();
+  }
+
+  SampleProgram program;
+  PackedWeights weights;
+};
+
+Typed& typedOf(std::int64_t rows) {
+  static std::map<std::int64_t, Typed> all;
+  return all.try_emplace(rows, rows).first->second;
 }
 
 // Each stroke comes behind an untimed one that empties the box, so that each is a real edit.
 void keyStroke(benchmark::State& state, const Text& text) {
-  SampleProgram& program = programOf(state.range(0));
-  const Task stroke{.work = [&] { program.type(text); }, .prepare = [&] { program.type({}); }};
-  measure(state, stroke, {[&] { passOver(program.list()); }},
-          {.most = state.range(0) == kJudged ? kLimit : Limit::kNone});
+  Typed& typed = typedOf(state.range(0));
+  const std::string wanted = PackedWeights::weightsOf(swedish(), text);
+  const Task stroke{.work = [&] { typed.program.type(text); },
+                    .prepare = [&] { typed.program.type({}); }};
+  const Task walk{[&] { benchmark::DoNotOptimize(typed.weights.countFrom(wanted)); }};
+  measure(state, stroke, walk, {.most = kLimit});
   stroke.prepare();
   const std::int64_t before = allocations;
   stroke.work();
@@ -47,14 +59,13 @@ void keyStroke(benchmark::State& state, const Text& text) {
 }
 
 void addText(const std::string& name, const Text& text) {
-  add("key_stroke/" + name, {kJudged, kLargest},
-      [text](benchmark::State& state) { keyStroke(state, text); });
+  add("key_stroke/" + name, kSizes, [text](benchmark::State& state) { keyStroke(state, text); });
 }
 
 // The beginning of the row at `part` of the whole list.
 void addRow(const std::string& name, double part, std::size_t length) {
-  add("key_stroke/" + name, {kJudged, kLargest}, [=](benchmark::State& state) {
-    const ListBox& list = programOf(state.range(0)).list();
+  add("key_stroke/" + name, kSizes, [=](benchmark::State& state) {
+    const ListBox& list = typedOf(state.range(0)).program.list();
     const auto row = static_cast<std::int32_t>(part * (list.ListCount() - 1));
     keyStroke(state, Text(list.List(row).substr(0, length)));
   });

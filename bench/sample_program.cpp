@@ -1,7 +1,5 @@
 #include "sample_program.h"
 
-#include <cstdlib>
-
 #include "sample_glossary.h"
 
 namespace termvik::bench {
@@ -57,9 +55,13 @@ void fillList(ListBox& list, defWords& store) {
   }
 }
 
-void passOver(const ListBox& list) {
-  constexpr TextView kBehindAllRows = u"ööööööööö";
-  if (list.rows().findPrefix(kBehindAllRows, 0).row != list.ListCount()) std::abort();
+std::vector<TextView> swedishWords(defWords& store) {
+  std::vector<TextView> words;
+  for (std::int32_t i = store.gGraphFirst; i <= store.gToolsLast; ++i) {
+    const clsWEntry& entry = store.gEntries(i);
+    if (entry.entryWordCount() > 0) words.push_back(entry.entryWord(1));
+  }
+  return words;
 }
 
 }  // namespace termvik::bench

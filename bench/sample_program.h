@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "app/program.h"
 #include "toolkit/user.h"
@@ -36,7 +37,7 @@ class SampleProgram {
 // Fills the list with the store's words as the program does.
 void fillList(ListBox& list, defWords& store);
 
-// One plain pass over all rows.
-void passOver(const ListBox& list);
+// The words that fillList takes from a sample: the first of each entry.
+std::vector<TextView> swedishWords(defWords& store);
 
 }  // namespace termvik::bench

@@ -35,9 +35,16 @@ struct SortedRowsLike : testing::TestWithParam<std::tuple<const char*, int>> {
     std::int32_t last = row;
     while (fits && last + 1 < rows.count() && relation(last + 1) == 0) ++last;
     ASSERT_EQ(fits ? rows.endOfRun(prefix, row) : row, last) << toUtf8(prefix);
-    std::int32_t behind = from + 1;
-    while (behind < rows.count() && collation.equal(at(from).first, at(behind).first)) ++behind;
-    ASSERT_EQ(rows.behindEqual(from), behind) << from;
+  }
+
+  void expectSameRuns() {
+    std::vector<SortedRows::Run> runs;
+    for (std::int32_t row = 0, next = 0; row < rows.count(); row = next) {
+      next = row + 1;
+      while (next < rows.count() && collation.equal(at(row).first, at(next).first)) ++next;
+      if (next > row + 1) runs.push_back({row, next - 1});
+    }
+    ASSERT_TRUE(rows.equalRuns() == runs);
   }
 
   Row& at(std::int32_t row) { return plain[static_cast<std::size_t>(row)]; }
@@ -65,6 +72,7 @@ TEST_P(SortedRowsLike, APlainVector) {
     rows.setItemData(rank, i);
   }
   expectSameRows();
+  expectSameRuns();
   for (int i = 0; i < 200; ++i) {
     expectSameAnswers(anyRow(), at(anyRow()).first.substr(0, 1 + dice.below(14)));
     const std::int32_t row = anyRow();  // a new text stays where the old one stood
@@ -72,6 +80,7 @@ TEST_P(SortedRowsLike, APlainVector) {
     rows.setText(row, at(row).first);
   }
   expectSameRows();
+  expectSameRuns();
   rows.clear();
   EXPECT_EQ(rows.add(u"again") + rows.count(), 1);
 }

@@ -14,7 +14,8 @@ std::int32_t SortedRows::add(TextView text) {
   const Entry entry = makeEntry(text);
   const Place place = insert(entry);
   ++count_;
-  return rankOf(place);
+  newest_ = rankOf(place);
+  return newest_;
 }
 
 SortedRows::Head SortedRows::makeHead(const std::uint8_t* ranks, std::size_t count) {
@@ -160,8 +161,10 @@ TextView SortedRows::text(std::int32_t row) const { return textOf(entryAt(row));
 
 std::int32_t SortedRows::itemData(std::int32_t row) const { return rowOf(entryAt(row)).itemData; }
 
+// Nearly always for the row that has just been added, which need not be looked for (bench/fill).
 void SortedRows::setItemData(std::int32_t row, std::int32_t itemData) {
-  rows_[entryAt(row).id & kId].itemData = itemData;
+  Row& wanted = row == newest_ ? rows_.back() : rows_[entryAt(row).id & kId];
+  wanted.itemData = itemData;
 }
 
 void SortedRows::setText(std::int32_t row, TextView text) {
@@ -257,11 +260,28 @@ std::int32_t SortedRows::endOfRun(TextView prefix, std::int32_t from) const {
   return walk(from + 1, leavesRun) - 1;
 }
 
-std::int32_t SortedRows::behindEqual(std::int32_t row) const {
-  const Entry first = entryAt(row);
-  return walk(row + 1, [&](const Entry& entry) {
-    return headsDecide(first, entry) || compare(first, entry) != 0;
-  });
+std::vector<SortedRows::Run> SortedRows::equalRuns() const {
+  std::vector<Run> runs;
+  const Entry* first = nullptr;
+  Run run;
+  std::int32_t row = 0;
+  const auto endRun = [&] {
+    if (run.last > run.first) runs.push_back(run);
+  };
+  for (const auto& block : blocks_) {
+    for (std::size_t i = 0; i < block->count; ++i, ++row) {
+      const Entry& entry = block->entries[i];
+      if (first != nullptr && !headsDecide(*first, entry) && compare(*first, entry) == 0) {
+        run.last = row;
+        continue;
+      }
+      endRun();
+      first = &entry;
+      run = {row, row};
+    }
+  }
+  endRun();
+  return runs;
 }
 
 }  // namespace termvik

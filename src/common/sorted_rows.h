@@ -49,8 +49,15 @@ class SortedRows {
   // row `from` does.
   std::int32_t endOfRun(TextView prefix, std::int32_t from) const;
 
-  // The first row behind `row` whose text differs from that of `row`; count() when there is none.
-  std::int32_t behindEqual(std::int32_t row) const;
+  struct Run {
+    std::int32_t first = 0;
+    std::int32_t last = 0;
+
+    bool operator==(const Run&) const = default;
+  };
+
+  // All unbroken runs of two or more rows whose texts are equal, rising.
+  std::vector<Run> equalRuns() const;
 
  private:
   static constexpr std::size_t kHead = 12;
@@ -144,6 +151,7 @@ class SortedRows {
   std::vector<Entry> firsts_;       // the first entry of each block
   std::vector<std::int32_t> sums_;  // Fenwick tree over the blocks' counts
   std::int32_t count_ = 0;
+  std::int32_t newest_ = -1;  // the row of rows_.back()
   TextArena<char16_t> texts_;
   TextArena<std::uint8_t> keys_;
   std::vector<Letter> scratch_;

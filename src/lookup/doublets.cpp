@@ -12,14 +12,10 @@ constexpr TextView kReportRule = u"=======================================";
 }  // namespace
 
 void frmGlossary::markDoublets() {
-  for (std::int32_t i = 0; i < lstWords_.ListCount();) {
-    const std::int32_t next = lstWords_.rows().behindEqual(i);
-    if (next > i + 1) {
-      for (std::int32_t row = i; row < next; ++row) {
-        lstWords_.setList(row, Text(lstWords_.List(row)).append(kRowMark));
-      }
+  for (const auto& [first, last] : lstWords_.rows().equalRuns()) {
+    for (std::int32_t row = first; row <= last; ++row) {
+      lstWords_.setList(row, Text(lstWords_.List(row)).append(kRowMark));
     }
-    i = next;
   }
 }
 
@@ -28,16 +24,12 @@ void frmGlossary::mnuDoubletList_Click() { copyDoubletsToClipboard(); }
 void frmGlossary::copyDoubletsToClipboard() {
   Text report = u"DUBBLETTER";
   report.append(kLineEnd).append(kReportRule).append(kLineEnd).append(kLineEnd);
-  for (std::int32_t i = 0; i < lstWords_.ListCount();) {
-    const std::int32_t next = lstWords_.rows().behindEqual(i);
-    if (next > i + 1) {
-      for (std::int32_t row = i; row < next; ++row) {
-        const clsWEntry& entry = words_.gEntries(lstWords_.ItemData(row));
-        report.append(kLineEnd).append(kLineEnd).append(entry.getArticle(words_.gWordType));
-      }
-      report.append(kLineEnd).append(kReportRule).append(kLineEnd).append(kLineEnd);
+  for (const auto& [first, last] : lstWords_.rows().equalRuns()) {
+    for (std::int32_t row = first; row <= last; ++row) {
+      const clsWEntry& entry = words_.gEntries(lstWords_.ItemData(row));
+      report.append(kLineEnd).append(kLineEnd).append(entry.getArticle(words_.gWordType));
     }
-    i = next;
+    report.append(kLineEnd).append(kReportRule).append(kLineEnd).append(kLineEnd);
   }
   toolkit_.setClipboardText(report);
   toolkit_.MsgBox(
