@@ -22,7 +22,7 @@ class Collation {
 
   // `a` and `b` are the same word.
   bool equal(TextView a, TextView b) const {
-    return a == b || (!beginApart(a, b) && textCompare(a, b) == 0);
+    return a == b || (!beginApart(a, b) && haveSameLetters(a, b));
   }
 
   // `text` equals the empty text; one of soft hyphens and control characters does.
@@ -51,6 +51,8 @@ class Collation {
     const auto other = firstLetter(b);
     return first && other && *first != *other;
   }
+
+  bool haveSameLetters(TextView a, TextView b) const;
 
   Collator collator_;
   Letters letters_;

@@ -1,5 +1,6 @@
 #include "common/letters.h"
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
@@ -9,6 +10,26 @@ namespace {
 
 constexpr std::size_t kCharacterCount = 0x10000;
 constexpr std::size_t kMostLetters = std::numeric_limits<Letter>::max();
+
+// The letters of a text of known characters, one after the other.
+class LetterWalk {
+ public:
+  LetterWalk(const Letters& letters, TextView text) : letters_(letters), text_(text) {}
+
+  // kNoLetter behind the last.
+  Letter next() {
+    for (; !text_.empty(); text_.remove_prefix(1), taken_ = 0) {
+      const CharacterLetters& entry = letters_.of(text_.front());
+      if (taken_ < entry.count) return entry.letters.at(taken_++);
+    }
+    return kNoLetter;
+  }
+
+ private:
+  const Letters& letters_;
+  TextView text_;
+  std::size_t taken_ = 0;  // letters of the first character
+};
 
 }  // namespace
 
@@ -48,6 +69,21 @@ Letters::Spelling Letters::spell(TextView text, Letter* out) const {
     otherThanOne |= entry.count ^ 1U;
   }
   return {.count = static_cast<std::size_t>(next - out), .oneLetterEach = otherThanOne == 0};
+}
+
+bool Letters::knowsAll(TextView text) const {
+  return std::all_of(text.begin(), text.end(), [this](char16_t c) { return of(c).known(); });
+}
+
+std::optional<bool> Letters::same(TextView a, TextView b) const {
+  if (!knowsAll(a) || !knowsAll(b)) return std::nullopt;
+  LetterWalk lettersOfA(*this, a);
+  LetterWalk lettersOfB(*this, b);
+  for (;;) {
+    const Letter letter = lettersOfA.next();
+    if (letter != lettersOfB.next()) return false;
+    if (letter == kNoLetter) return true;
+  }
 }
 
 }  // namespace termvik

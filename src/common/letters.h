@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "common/alphabet.h"
@@ -53,6 +54,9 @@ class Letters {
     return text.size() * CharacterLetters::kMost + sizeof(CharacterLetters);
   }
 
+  // Whether two texts have the same letters; nothing when a character of theirs is not known.
+  std::optional<bool> same(TextView a, TextView b) const;
+
   // The place of a letter in the order, accents left out: 1 to 255.
   std::uint8_t rank(Letter letter) const { return ranks_[letter]; }
 
@@ -60,6 +64,7 @@ class Letters {
   bool isPlain(Letter letter) const { return rank(letter) != rank(letter - 1); }
 
  private:
+  bool knowsAll(TextView text) const;
   void addSpelled(char16_t character, TextView spelling);
 
   std::array<std::uint8_t, 256> ranks_{};
