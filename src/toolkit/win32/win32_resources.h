@@ -2,5 +2,6 @@
 // they are macros.
 #pragma once
 
-#define TERMVIK_ICON 1  // an icon of all sizes; of all icons the one that Windows shows for the file
+// All sizes of the icon. Of all icons the first is the one that Windows shows for the file.
+#define TERMVIK_ICON 1
 #define TERMVIK_LOGO 2  // RCDATA: the logo as a PNG, three times as large as it is shown
