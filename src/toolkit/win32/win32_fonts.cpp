@@ -16,6 +16,8 @@ constexpr float kPointsPerInch = 72;
 constexpr int kLeastPixels =
     11;  // at the usual resolution: what the captions' places were drawn for
 
+constexpr int kBoxBorders = 6;  // at the usual resolution: above and below the text of a box
+
 // Narrower than the message fonts of today's Windows, in the order of preference.
 constexpr std::array<TextView, 4> kNarrowFamilies = {u"Tahoma", u"Microsoft Sans Serif", u"Arial",
                                                      u"Liberation Sans"};
@@ -53,11 +55,11 @@ class Ruler {
  public:
   explicit Ruler(const LOGFONTW& font)
       : font_(CreateFontIndirectW(&font)),
-        context_(CreateCompatibleDC(nullptr)),
+        context_(GetDC(nullptr)),  // of the screen: elsewhere letters have other widths
         before_(SelectObject(context_, font_.get())) {}
   ~Ruler() {
     SelectObject(context_, before_);
-    DeleteDC(context_);
+    ReleaseDC(nullptr, context_);
   }
   Ruler(const Ruler&) = delete;
   Ruler& operator=(const Ruler&) = delete;
@@ -81,14 +83,14 @@ int roomBesideCaption(ControlKind kind) {
   switch (kind) {
     case ControlKind::OptionButton:
     case ControlKind::CheckBox:
-      return 18;  // the sign and the gap behind it
+      return 20;  // the sign and the gaps beside the caption
     case ControlKind::CommandButton:
     case ControlKind::TextBox:
-      return 12;  // borders and margins
+      return 14;  // borders and margins
     case ControlKind::Frame:
       return 20;  // the line at both sides
     default:
-      return 2;
+      return 4;  // letters can reach beyond the width that they are said to have
   }
 }
 
@@ -100,7 +102,8 @@ bool captionFits(const ControlDesign& design, const LOGFONTW& font, int dpi) {
   const bool isBox = design.kind == ControlKind::TextBox;
   const UINT flags = DT_WORDBREAK | DT_NOPREFIX | (isBox ? DT_EDITCONTROL : 0);
   const SIZE needed = ruler.sizeOf(trimEnd(design.caption), flags, width);
-  return needed.cx <= width && needed.cy <= heightOf(place);
+  const int borders = isBox ? MulDiv(kBoxBorders, dpi, kUsualDpi) : 0;
+  return needed.cx <= width && needed.cy <= heightOf(place) - borders;
 }
 
 // Texts to be read shrink by themselves: a long one must not make all captions small.

@@ -94,6 +94,8 @@ LRESULT Win32ListBox::reports(NMHDR& header) {
       return 0;
     case LVN_ODFINDITEMW:
       return findRow(reinterpret_cast<NMLVFINDITEMW&>(header));
+    case NM_CUSTOMDRAW:
+      return colourRow(reinterpret_cast<NMLVCUSTOMDRAW&>(header));
     case LVN_ITEMCHANGED:
       if (!selecting_) selectionChanges(reinterpret_cast<NMLISTVIEW&>(header));
       return 0;
@@ -109,6 +111,19 @@ void Win32ListBox::selectionChanges(const NMLISTVIEW& change) {
   if (is && change.iItem >= 0) userSelects(change.iItem);
   // Most often because another row is about to be selected; only afterwards is it known.
   if (was && !is) PostMessageW(shown(), kKeepSelection, 0, 0);
+}
+
+// The selected row always stands out: the user looks at it while typing in the search box, and a
+// view without the focus would show it in a grey that is hard to tell from the background.
+LRESULT Win32ListBox::colourRow(NMLVCUSTOMDRAW& drawn) const {
+  if (drawn.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  const bool isRow = drawn.nmcd.dwDrawStage == CDDS_ITEMPREPAINT;
+  if (isRow && static_cast<std::int32_t>(drawn.nmcd.dwItemSpec) == ListIndex()) {
+    drawn.nmcd.uItemState &= ~static_cast<UINT>(CDIS_SELECTED);  // with it, colours do not count
+    drawn.clrText = GetSysColor(COLOR_HIGHLIGHTTEXT);
+    drawn.clrTextBk = GetSysColor(COLOR_HIGHLIGHT);
+  }
+  return CDRF_DODEFAULT;
 }
 
 void Win32ListBox::giveText(LVITEMW& item) {

@@ -29,6 +29,7 @@ class Win32ListBox : public Win32Control<ListBox> {
   void keepSelection();
   void fitColumn() const;
   void selectionChanges(const NMLISTVIEW& change);
+  LRESULT colourRow(NMLVCUSTOMDRAW& drawn) const;
   void giveText(LVITEMW& item);
   LRESULT findRow(const NMLVFINDITEMW& wanted) const;
 

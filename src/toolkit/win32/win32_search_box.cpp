@@ -81,8 +81,9 @@ void Win32SearchBox::reports(WORD code) {
 
 LRESULT Win32SearchBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_GETDLGCODE:
-      return passOn(message, wParam, lParam) | (isKeyButTab(lParam) ? DLGC_WANTMESSAGE : 0);
+    case WM_GETDLGCODE:  // not told of the dialog, the box does not hand Enter to a button either
+      return DLGC_HASSETSEL | DLGC_WANTARROWS | DLGC_WANTCHARS |
+             (isKeyButTab(lParam) ? DLGC_WANTMESSAGE : 0);
     case WM_KEYDOWN:
       keyKept_ = !userPressesKey(keyCodeOf(wParam));
       if (keyKept_) return 0;

@@ -117,6 +117,7 @@ class Win32User : public User {
 
   void press(Control& control, std::int16_t keyCode) override {
     const HWND shown = win32Shown(control).shown();
+    SetFocus(shown);  // keys go where it is
     PostMessageW(shown, WM_KEYDOWN, static_cast<WPARAM>(keyCode), 1);
     PostMessageW(shown, WM_KEYUP, static_cast<WPARAM>(keyCode), 1);
     settle();

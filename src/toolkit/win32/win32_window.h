@@ -80,6 +80,7 @@ class Win32Window : public Window {
   void resolutionChanges(int dpi, const RECT& suggested);
   void applyFonts();
   RECT pixelsOf(const Control& control) const;
+  void keepInside(RECT& pixels) const;
   void placeMoved();
   static void freeOfLimits(MINMAXINFO& limits);
 

@@ -13,6 +13,10 @@ namespace {
 constexpr UINT kOnlyPlace = SWP_NOZORDER | SWP_NOOWNERZORDER | SWP_NOACTIVATE;
 constexpr int kLeastLineHeight = 2;  // pixels: one dark, one light
 
+bool scrolls(const ControlDesign& design) {
+  return design.scrolls || design.kind == ControlKind::ListBox;
+}
+
 void bringTo(HWND hwnd, const RECT& place) {
   SetWindowPos(hwnd, nullptr, place.left, place.top, widthOf(place), heightOf(place), kOnlyPlace);
 }
@@ -156,7 +160,18 @@ RECT Win32Window::pixelsOf(const Control& shown) const {
   if (shown.design().kind == ControlKind::Line) {
     pixels.bottom = std::max(pixels.bottom, pixels.top + kLeastLineHeight);
   }
+  if (scrolls(shown.design())) keepInside(pixels);
   return pixels;
+}
+
+// The frame of a window, and a menu bar of two lines, can leave less room than the layout reckons
+// with, which counts from the outer edges: what scrolls ends at the inner ones, so that its scroll
+// bar and its last row are in sight.
+void Win32Window::keepInside(RECT& pixels) const {
+  RECT client;
+  GetClientRect(hwnd_, &client);
+  pixels.right = std::max(pixels.left, std::min(pixels.right, client.right));
+  pixels.bottom = std::max(pixels.top, std::min(pixels.bottom, client.bottom));
 }
 
 // The window has come to a screen of another resolution, or the user has changed the screen's.
