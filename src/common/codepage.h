@@ -9,15 +9,17 @@
 
 namespace termvik {
 
-// Appends `bytes` to `out` as characters. Every byte gives a character: the five bytes that
-// Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so on.
+// Appends `bytes` to `out` as characters, never more of them than bytes. Every byte gives a
+// character: the five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so
+// on. Only where the system's page is one of the double-byte pages of East Asia can two bytes be
+// one.
 void decodeAnsi(std::string_view bytes, Text& out);
 
 // `text` as bytes of the code page. A character (one UTF-16 element) that the code page lacks
 // becomes '?'.
 std::string encodeAnsi(TextView text);
 
-// All characters that a file can hold: the images of the bytes 00 to FF, in that order.
+// All characters that a file can hold in one byte: the images of the bytes 00 to FF, in that order.
 Text ansiCharacters();
 
 }  // namespace termvik
