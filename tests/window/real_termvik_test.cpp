@@ -149,7 +149,7 @@ class RealTermvik : public testing::Test {
 
 static std::wstring clipboardText() {
   if (OpenClipboard(nullptr) == 0) return L"(taken)";
-  const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+  HANDLE data = GetClipboardData(CF_UNICODETEXT);
   std::wstring text = data == nullptr ? L"(empty)" : static_cast<const wchar_t*>(GlobalLock(data));
   CloseClipboard();
   return text;
