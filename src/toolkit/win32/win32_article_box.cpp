@@ -11,9 +11,10 @@ namespace termvik {
 
 namespace {
 
-// A line is laid out whole, and one of megabytes can take minutes: longer lines are shown in
-// pieces.
+// A line is laid out anew for each row that it is wrapped into, and one of megabytes would take
+// minutes: lines longer than any that a person writes are shown in pieces.
 constexpr std::size_t kLongestLine = 4000;
+constexpr std::size_t kPiece = 250;
 
 constexpr WPARAM kCtrlA = 1;
 constexpr WPARAM kCtrlC = 3;
@@ -32,33 +33,36 @@ class ShownLines {
 
   explicit ShownLines(TextView from) {
     text.reserve(from.size());
-    for (std::size_t i = 0; i < from.size(); ++i) {
-      const char16_t character = from[i];
-      const bool isPair = character == u'\r' && from.substr(i + 1, 1) == u"\n";
-      if (isPair) {
-        text += L"\r\n";
-        ++i;
-        inLine_ = 0;
-      } else if (character == u'\r' || character == u'\n') {
-        breakLine(character);
-      } else {
-        if (inLine_ >= kLongestLine && !IS_LOW_SURROGATE(character)) breakLine(0);
-        text += character == 0 ? L' ' : static_cast<wchar_t>(character);
-        ++inLine_;
-      }
+    while (!from.empty()) {
+      const TextView line = from.substr(0, from.find_first_of(u"\r\n"));
+      addLine(line);
+      from.remove_prefix(line.size());
+      if (!from.empty()) from.remove_prefix(addBreak(from));
     }
   }
 
  private:
-  // Only the pair breaks a line of a box; `own` is the half of it that the text has.
-  void breakLine(char16_t own) {
-    if (own != u'\r') added.push_back(text.size());
-    if (own != u'\n') added.push_back(text.size() + 1);
-    text += L"\r\n";
-    inLine_ = 0;
+  void addLine(TextView line) {
+    const std::size_t longest = line.size() > kLongestLine ? kPiece : kLongestLine;
+    while (line.size() > longest) {
+      const std::size_t cut = IS_LOW_SURROGATE(line[longest]) ? longest + 1 : longest;
+      text += shownText(line.substr(0, cut));
+      addBreak({});
+      line.remove_prefix(cut);
+    }
+    text += shownText(line);
   }
 
-  std::size_t inLine_ = 0;
+  // Only CR LF breaks a line of a box, and `from` can begin with half of it or none. Gives how many
+  // characters of `from` it stands for.
+  std::size_t addBreak(TextView from) {
+    const bool hasReturn = from.starts_with(u'\r');
+    const bool hasFeed = from.substr(hasReturn ? 1 : 0).starts_with(u'\n');
+    if (!hasReturn) added.push_back(text.size());
+    if (!hasFeed) added.push_back(text.size() + 1);
+    text += L"\r\n";
+    return (hasReturn ? 1U : 0U) + (hasFeed ? 1U : 0U);
+  }
 };
 
 }  // namespace

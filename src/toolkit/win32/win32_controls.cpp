@@ -84,9 +84,9 @@ void Win32OptionButton::reports(WORD code) {
 // on would have no tab stop at all.
 void Win32OptionButton::showValue() {
   send(BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED);
-  const auto style = static_cast<DWORD>(GetWindowLongPtrW(shown(), GWL_STYLE));
-  const DWORD stop = window().isTabStop(*this) ? WS_TABSTOP : 0;
-  SetWindowLongPtrW(shown(), GWL_STYLE, static_cast<LONG>((style & ~WS_TABSTOP) | stop));
+  constexpr LONG_PTR kStop = WS_TABSTOP;
+  const LONG_PTR style = GetWindowLongPtrW(shown(), GWL_STYLE) & ~kStop;
+  SetWindowLongPtrW(shown(), GWL_STYLE, style | (window().isTabStop(*this) ? kStop : 0));
 }
 
 Win32CheckBox::Win32CheckBox(Win32Window& window, const ControlDesign& design)

@@ -143,9 +143,13 @@ std::unique_ptr<Control> Win32Window::makeControl(const ControlDesign& design,
 // Where a small window makes controls overlap, the ones that take input stay in sight, and of the
 // others the later ones.
 void Win32Window::putDecorationsBehind() const {
-  for (auto control = controls().rbegin(); control != controls().rend(); ++control) {
-    if (!isDecoration((*control)->design())) continue;
-    SetWindowPos(win32Shown(**control).shown(), HWND_BOTTOM, 0, 0, 0, 0,
+  HWND lastInput = HWND_TOP;
+  for (const auto& control : controls()) {
+    if (!isDecoration(control->design())) lastInput = win32Shown(*control).shown();
+  }
+  for (const auto& control : controls()) {
+    if (!isDecoration(control->design())) continue;
+    SetWindowPos(win32Shown(*control).shown(), lastInput, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 }
