@@ -62,9 +62,18 @@ await() {
 }
 
 # Starts the Windows of scripts/wine on the display, so that no test waits for it. It ends with the
-# script.
+# script. Its desktop is one window, in which no X window manager has a say.
 start_windows() {
+  if ! grep -qs '"Default"="1920x1080"' build/windows/wine/user.reg; then
+    (
+      unset DISPLAY  # for now, since a desktop that is open would stay as it is
+      scripts/wine wineboot.exe --init
+      scripts/wine reg.exe add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f
+      scripts/wine reg.exe add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1920x1080 /f
+      scripts/wine --server --wait
+    ) &>build/windows/wine.log || fail "Wine did not start, see build/windows/wine.log"
+  fi
   scripts/wine --server --foreground --persistent &
   background+=($!)
-  scripts/wine wineboot.exe --init &>/dev/null
+  scripts/wine wineboot.exe --init &>build/windows/wine.log
 }
