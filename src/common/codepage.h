@@ -10,8 +10,8 @@
 namespace termvik {
 
 // Appends `bytes` to `out` as characters, never more of them than bytes. Every byte gives a
-// character: the five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so
-// on. Only where the system's page is one of the double-byte pages of East Asia can two bytes be
+// character: the five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and
+// so on. Only where the system's page is one of the double-byte pages of East Asia can two bytes be
 // one.
 void decodeAnsi(std::string_view bytes, Text& out);
 
