@@ -52,16 +52,10 @@ class Win32Window : public Window {
 
   // win32_window.cpp
   void createWindow();
-  HMENU makeMenu();
-  void addControls(const Collation& collation);
-  std::unique_ptr<Control> makeControl(const ControlDesign& design, const Collation& collation);
-  void putDecorationsBehind() const;
   LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> handleControls(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> handleUser(UINT message, WPARAM wParam, LPARAM lParam);
   std::optional<LRESULT> handlePlace(UINT message, WPARAM wParam, LPARAM lParam);
-  Control* controlOf(HWND child) const;
-  Control* controlWith(bool ControlDesign::*role) const;
   void command(WPARAM wParam, LPARAM lParam);
   HWND defaultButton() const;
   void userClicksAt(POINT position) const;
@@ -69,6 +63,15 @@ class Win32Window : public Window {
   void focusControl() const;
   void paintBorder() const;
   void userCloses();
+
+  // win32_window_parts.cpp
+  HMENU makeMenu();
+  void addControls(const Collation& collation);
+  std::unique_ptr<Control> makeControl(const ControlDesign& design, const Collation& collation);
+  void putDecorationsBehind() const;
+  MenuItem* menuItemOf(UINT id) const;
+  Control* controlOf(HWND child) const;
+  Control* controlWith(bool ControlDesign::*role) const;
 
   // win32_window_place.cpp
   void giveClientSize();
