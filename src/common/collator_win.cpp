@@ -254,8 +254,9 @@ std::vector<CollationElement> Collator::elements(TextView text) const {
 // Holds the keys of the characters of a file against what Windows says of the characters.
 bool Collator::comparesByElements() const {
   std::vector<std::pair<SortKey, Text>> sorted;
-  for (const auto& [character, key] : platform_->plain)
+  for (const auto& [character, key] : platform_->plain) {
     sorted.emplace_back(key, Text(1, character));
+  }
   std::sort(sorted.begin(), sorted.end());
   for (std::size_t i = 1; i < sorted.size(); ++i) {
     const auto& [lower, a] = sorted[i - 1];
