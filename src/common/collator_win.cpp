@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <set>
 #include <string_view>
 #include <tuple>
+#include <unordered_map>
 #include <utility>
 #include <windows.h>
 
@@ -110,8 +112,14 @@ struct Collator::Platform {
   std::wstring locale;
   bool accentsFromBack = false;  // the key has the accents of the last letters first
 
+  // Of the characters of a file those whose keys are no more than letters and accents, and which of
+  // them, one behind the other, have another key than each its own.
+  std::unordered_map<char16_t, SortKey> plain;
+  std::set<std::pair<char16_t, char16_t>> joined;
+
   explicit Platform(std::wstring localeName) : locale(std::move(localeName)) {
     accentsFromBack = keyOf(u"éo").accents.size() > 1;
+    for (const char16_t character : ansiCharacters()) addIfPlain(character);
   }
 
   int compare(TextView a, TextView b, DWORD flags) const {
@@ -120,9 +128,11 @@ struct Collator::Platform {
            CSTR_EQUAL;
   }
   SortKey keyOf(TextView text) const;
-  std::size_t stepLength(TextView text) const;
   bool joins(TextView a, TextView b) const;
-  bool anyJoins(TextView characters, const std::vector<SortKey>& keys) const;
+  void addIfPlain(char16_t character);
+  bool joinsAnyPlain(char16_t character) const;
+  const SortKey* keyOfLoneCharacter(TextView text) const;
+  std::size_t stepLength(TextView text) const;
 };
 
 SortKey Collator::Platform::keyOf(TextView text) const {
@@ -153,6 +163,40 @@ bool Collator::Platform::joins(TextView a, TextView b) const {
   return apart != keyOf(Text(a).append(b));
 }
 
+// Each two plain characters are tried together, in both orders.
+void Collator::Platform::addIfPlain(char16_t character) {
+  SortKey key = keyOf({&character, 1});
+  if (!key.isPlain() || !plain.try_emplace(character, std::move(key)).second) return;
+  if (!joinsAnyPlain(character)) return;
+  for (const auto& [other, otherKey] : plain) {
+    if (joins({&character, 1}, {&other, 1})) joined.emplace(character, other);
+    if (joins({&other, 1}, {&character, 1})) joined.emplace(other, character);
+  }
+}
+
+// Asks Windows once for all the others.
+bool Collator::Platform::joinsAnyPlain(char16_t character) const {
+  Text pairs;
+  SortKey apart;
+  for (const auto& [other, key] : plain) {
+    pairs.append({character, other});
+    apart.append(plain.at(character));
+    apart.append(key);
+  }
+  return apart != keyOf(pairs);
+}
+
+// The key of the first character where it is known to stand for itself: in all that could be one
+// step no two neighbours join.
+const SortKey* Collator::Platform::keyOfLoneCharacter(TextView text) const {
+  const auto first = plain.find(text.front());
+  if (first == plain.end()) return nullptr;
+  for (std::size_t i = 1; i < std::min(kLongestStep, text.size()); ++i) {
+    if (!plain.contains(text[i]) || joined.contains({text[i - 1], text[i]})) return nullptr;
+  }
+  return &first->second;
+}
+
 // How many characters at the beginning of `text` are collated together: as few as leave alone what
 // follows them.
 std::size_t Collator::Platform::stepLength(TextView text) const {
@@ -166,19 +210,6 @@ std::size_t Collator::Platform::stepLength(TextView text) const {
   std::size_t length = 1;
   while (length < most && joinsNext(length)) ++length;
   return length;
-}
-
-// True when the last of `characters`, before or behind itself or one of the others, makes a key
-// that is not theirs one after the other. Asks Windows once.
-bool Collator::Platform::anyJoins(TextView characters, const std::vector<SortKey>& keys) const {
-  Text pairs;
-  SortKey apart;
-  for (std::size_t i = 0; i < characters.size(); ++i) {
-    pairs.append({characters.back(), characters[i]});
-    apart.append(keys.back());
-    apart.append(keys[i]);
-  }
-  return apart != keyOf(pairs);
 }
 
 Collator::Collator(const std::string& localeName)
@@ -205,13 +236,18 @@ std::vector<CollationElement> Collator::elements(TextView text) const {
   std::vector<CollationElement> result;
   SortKey all;
   for (std::size_t at = 0; at < text.size();) {
-    const std::size_t length = platform_->stepLength(text.substr(at));
-    SortKey key = platform_->keyOf(text.substr(at, length));
-    at += length;
-    std::uint32_t rest = 0;
-    for (const char byte : std::exchange(key.rest, {})) rest = 31 * rest + weight(byte);
-    all.append(key);
-    result.resize(all.letterCount(), {0, rest << 16U, static_cast<std::int32_t>(at)});
+    const TextView rest = text.substr(at);
+    if (const SortKey* key = platform_->keyOfLoneCharacter(rest)) {
+      all.append(*key);
+      ++at;
+    } else {
+      const std::size_t length = platform_->stepLength(rest);
+      all.append(platform_->keyOf(rest.substr(0, length)));
+      at += length;
+    }
+    std::uint32_t more = 0;
+    for (const char byte : std::exchange(all.rest, {})) more = 31 * more + weight(byte);
+    result.resize(all.letterCount(), {0, more << 16U, static_cast<std::int32_t>(at)});
   }
   const std::size_t count = std::max({result.size(), all.accents.size(), all.kinds.size()});
   result.resize(count, {0, 0, size32(text)});
@@ -228,9 +264,8 @@ std::vector<CollationElement> Collator::elements(TextView text) const {
 // Holds the keys of the characters of a file against what Windows says of the characters.
 bool Collator::comparesByElements() const {
   std::vector<std::pair<SortKey, Text>> sorted;
-  for (const char16_t character : ansiCharacters()) {
-    SortKey key = platform_->keyOf({&character, 1});
-    if (key.isPlain()) sorted.emplace_back(std::move(key), Text(1, character));
+  for (const auto& [character, key] : platform_->plain) {
+    sorted.emplace_back(key, Text(1, character));
   }
   std::sort(sorted.begin(), sorted.end());
   for (std::size_t i = 1; i < sorted.size(); ++i) {
@@ -244,25 +279,12 @@ bool Collator::comparesByElements() const {
   return true;
 }
 
-// Each two characters are tried together, in both orders. A character whose key has more than
-// letters and accents is among the results whatever stands before it.
+// What is not known to be plain is counted among them.
 Text Collator::contextCharacters(TextView characters) const {
   Text result;
-  Text plain;
-  std::vector<SortKey> keys;
+  for (const auto& [first, second] : platform_->joined) result += second;
   for (const char16_t character : characters) {
-    SortKey key = platform_->keyOf({&character, 1});
-    if (!key.isPlain()) {
-      result += character;
-      continue;
-    }
-    plain += character;
-    keys.push_back(std::move(key));
-    if (!platform_->anyJoins(plain, keys)) continue;
-    for (const char16_t other : plain) {
-      if (platform_->joins({&character, 1}, {&other, 1})) result += other;
-      if (platform_->joins({&other, 1}, {&character, 1})) result += character;
-    }
+    if (!platform_->plain.contains(character)) result += character;
   }
   return result;
 }
