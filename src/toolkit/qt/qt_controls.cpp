@@ -1,7 +1,10 @@
 #include "toolkit/qt/qt_controls.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QSignalBlocker>
+
+#include "toolkit/qt/qt_logo.h"
 
 namespace termvik {
 
@@ -29,14 +32,15 @@ class Picture : public QFrame {
     place = QRectF(place.right() - size.width(), place.top(), size.width(), size.height());
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QPixmap sharp = logo_.scaled((size * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
-                                       Qt::SmoothTransformation);
-    painter.drawPixmap(place, sharp, QRectF(sharp.rect()));
+    const QImage logo(reinterpret_cast<const uchar*>(kLogoPixel), kLogoPixels.width(),
+                      kLogoPixels.height(), QImage::Format_ARGB32_Premultiplied);
+    const QImage sharp = logo.scaled((size * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
+                                     Qt::SmoothTransformation);
+    painter.drawImage(place, sharp, QRectF(sharp.rect()));
   }
 
  private:
   static constexpr QSize kLogoSize{168, 131};
-  QPixmap logo_{QStringLiteral(":/logo.png")};
 };
 
 QFrame* makePicture(QWidget* parent, const ControlDesign& design) {

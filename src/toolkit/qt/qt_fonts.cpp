@@ -18,6 +18,7 @@ namespace {
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr int kLeastPixels = 11;  // the size that the captions' places were drawn for
 constexpr int kLeastMenuPixels = 9;
+constexpr int kStretchStep = 5;
 constexpr int kLeastStretch = 75;
 
 // Families as wide as the ones that the designs were drawn with.
@@ -95,8 +96,9 @@ QFont captionFont(const WindowDesign& design) {
     }
   }
   // Only wide fonts are installed: narrow the letters rather than make them too small to read.
-  for (int stretch = 100; stretch >= kLeastStretch && !allCaptionsFit(design, font); stretch -= 5) {
-    font.setStretch(stretch);
+  int stretch = QFont::Unstretched;
+  while (stretch > kLeastStretch && !allCaptionsFit(design, font)) {
+    font.setStretch(stretch -= kStretchStep);
   }
   return font;
 }

@@ -20,6 +20,10 @@ void QtToolkit::setUpApplication() {
   initPictures();
   QApplication::setApplicationName(toQt(kProgramName));
   QGuiApplication::setDesktopFileName(QStringLiteral("termvik"));
+}
+
+void QtToolkit::showIcon() {
+  if (!QApplication::windowIcon().isNull()) return;
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
     icon.addFile(QStringLiteral(":/icon-%1.png").arg(size));
@@ -32,6 +36,7 @@ std::unique_ptr<Window> QtToolkit::createWindow(const WindowDesign& design) {
 }
 
 void QtToolkit::MsgBox(TextView prompt) {
+  showIcon();
   QMessageBox box(QApplication::activeWindow());
   box.setWindowTitle(toQt(kProgramName));
   box.setTextFormat(Qt::PlainText);

@@ -11,8 +11,12 @@ class QtToolkit : public Toolkit {
  public:
   explicit QtToolkit(const Collation& collation) : collation_(collation) {}
 
-  // The program's icon, its name for desktops, and what else all its windows share.
+  // The program's name for desktops, and what else all its windows share.
   static void setUpApplication();
+
+  // Gives the program its icon, once. Its pictures take longer to decode than the window takes to
+  // be built, so that they wait until the first window is there (start_bench).
+  static void showIcon();
 
   std::unique_ptr<Window> createWindow(const WindowDesign& design) override;
   std::vector<Window*> Forms() const override { return open_; }

@@ -290,6 +290,7 @@ void QtWindow::learnFrame() {
 void QtWindow::watchFrame() {
   auto* timer = new QTimer(widget_.get());
   QObject::connect(timer, &QTimer::timeout, widget_.get(), [this, timer, looks = 0]() mutable {
+    QtToolkit::showIcon();
     readPlace();
     if (++looks < kFrameLooks) return;
     frameKnown_ = true;  // there is none
