@@ -31,9 +31,8 @@ bool openClipboard(HWND owner) {
 HGLOBAL copyForClipboard(const std::wstring& text) {
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
   if (memory == nullptr) return nullptr;
-  text.copy(static_cast<wchar_t*>(GlobalLock(memory)), text.size());
-  static_cast<wchar_t*>(GlobalLock(memory))[text.size()] = L'\0';
-  GlobalUnlock(memory);
+  auto* const copy = static_cast<wchar_t*>(GlobalLock(memory));
+  copy[text.copy(copy, text.size())] = L'\0';
   GlobalUnlock(memory);
   return memory;
 }
