@@ -183,6 +183,31 @@ TEST_P(ToolkitContract, SelectingARowRaisesClickBeforeTheCallIsOver) {
   EXPECT_EQ(happened(), Events{});
 }
 
+TEST_P(ToolkitContract, RowsAreCountedBeyondSixteenBits) {
+  constexpr std::int32_t kRows = 70'000;
+  for (std::int32_t i = 0; i < kRows; ++i) {
+    list.AddItem(fromUtf8(std::to_string(100'000 + i % 10 * 1000 + i / 10)));
+    list.setItemData(list.NewIndex(), i);
+  }
+  user->settle();
+  list.setListIndex(kRows - 2);
+  user->press(list, keys::kDown);
+  user->press(list, keys::kDown);
+  EXPECT_EQ(happened(), (Events{"list 69998", "list 69999"})) << "below the last row is nothing";
+  EXPECT_EQ(list.List(kRows - 1), u"115999");
+  EXPECT_EQ(list.ItemData(kRows - 1), 69999);
+  list.AddItem(u"0");
+  EXPECT_EQ(list.ListIndex(), kRows);
+  user->settle();
+  user->press(list, keys::kUp);
+  EXPECT_EQ(happened(), Events{"list 69999"});
+  list.Clear();
+  list.AddItem(u"one");
+  user->settle();
+  user->clickRow(list, 0);
+  EXPECT_EQ(happened(), Events{"list 0"});
+}
+
 TEST_P(ToolkitContract, AnOptionThatTurnsOnTurnsTheOthersOffFirst) {
   OptionGroup& mode = window->optionGroup(u"optSearch");
   mode.Click = [this, &mode](std::int16_t index) {
