@@ -14,6 +14,16 @@ target_compile_definitions(
             TERMVIK_VERSION_MINOR=${PROJECT_VERSION_MINOR}
             TERMVIK_VERSION_REVISION=${PROJECT_VERSION_PATCH})
 
+if(WIN32)
+  # The Windows API in its wide form, as of Windows 10, without the macros that get in our way.
+  target_compile_definitions(
+    termvik_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+  # One file without a library of the compiler beside it, and nothing in it that nobody calls.
+  target_compile_options(termvik_options INTERFACE -ffunction-sections -fdata-sections)
+  target_link_options(termvik_options INTERFACE -static -Wl,--gc-sections
+                      $<$<CONFIG:Release>:-s>)
+endif()
+
 if(TERMVIK_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined
                  -fno-omit-frame-pointer)

@@ -6,6 +6,8 @@ build_packages=(build-essential cmake ninja-build pkg-config libicu-dev qt6-base
 display_packages=(xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${display_packages[@]}" libgtest-dev xclip dbus dbus-x11 at-spi2-core python3
                python3-gi gir1.2-atspi-2.0)
+windows_packages=(g++-mingw-w64-x86-64 wine64 googletest nlohmann-json3-dev cmake ninja-build
+                  fonts-liberation "${display_packages[@]}")
 
 fail() { echo "$1" >&2 && exit 1; }
 
@@ -57,4 +59,21 @@ await() {
   until "${@:2}"; do
     ((SECONDS < deadline)) && sleep 0.05 || return 1
   done
+}
+
+# Starts the Windows of scripts/wine on the display, so that no test waits for it. It ends with the
+# script. Its desktop is one window, in which no X window manager has a say.
+start_windows() {
+  if ! grep -qs '"Default"="1920x1080"' build/windows/wine/user.reg; then
+    (
+      unset DISPLAY  # for now, since a desktop that is open would stay as it is
+      scripts/wine wineboot.exe --init
+      scripts/wine reg.exe add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f
+      scripts/wine reg.exe add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1920x1080 /f
+      scripts/wine --server --wait
+    ) &>build/windows/wine.log || fail "Wine did not start, see build/windows/wine.log"
+  fi
+  scripts/wine --server --foreground --persistent &
+  background+=($!)
+  scripts/wine wineboot.exe --init &>build/windows/wine.log
 }

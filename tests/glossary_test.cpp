@@ -38,6 +38,21 @@ TEST(Lines, MayEndAnywhereInAnyBuffer) {
   }
 }
 
+TEST(Lines, AreCountedAsTheyAreRead) {
+  const Folder folder;
+  Dice dice(7);
+  for (int round = 0; round < 300; ++round) {
+    std::string bytes(round < 30 ? (1U << 16U) - 15 : dice.below(600), 'x');
+    for (int i = 0; i < 30; ++i) bytes += dice.oneOf(std::string_view("\r\r\n\nx"));
+    if (round % 3 == 0) bytes.append(300, '\r');
+    folder.writeBytes("file", bytes);
+    FileMeasure measure;
+    ASSERT_TRUE(measureFile(folder.path / "file", measure));
+    ASSERT_EQ(measure.lines, linesOf(folder.path / "file").size()) << round;
+    ASSERT_EQ(measure.bytes, bytes.size());
+  }
+}
+
 // What the lines of a file hold when each run of lines between separators is read by itself.
 static Strings plainEntries(const std::filesystem::path& file) {
   const auto empty = [](TextView text) { return swedish().textCompare(text, u"") == 0; };

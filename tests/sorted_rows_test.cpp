@@ -57,7 +57,7 @@ struct SortedRowsLike : testing::TestWithParam<std::tuple<const char*, int>> {
 };
 
 INSTANTIATE_TEST_SUITE_P(Orders, SortedRowsLike,
-                         testing::Combine(testing::Values("sv_SE", "da_DK"),
+                         testing::Combine(testing::Values("sv_SE", "da_DK", "fr_CA"),
                                           testing::Values(1, -1, 0, kRandom)));
 
 TEST_P(SortedRowsLike, APlainVector) {

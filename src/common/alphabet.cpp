@@ -7,7 +7,8 @@ namespace termvik {
 Alphabet::Alphabet(const Collator& collator, TextView characters) : collator_(collator) {
   if (!collator_.comparesByElements()) return;
   divide(standing(characters));
-  if (letterByLetter()) {
+  accentsFromBack_ = !letterByLetter(false);
+  if (!accentsFromBack_ || letterByLetter(true)) {
     tailor();
   } else {
     letters_.clear();
@@ -87,9 +88,11 @@ Text Alphabet::spelling(char16_t character) const {
   return {};
 }
 
-// An accent has to outweigh whatever accent may follow it: in some languages the last accent of a
-// word counts more than the first.
-bool Alphabet::letterByLetter() const {
+// An accent has to outweigh whatever accent may follow it, or else whatever may stand ahead of it.
+bool Alphabet::letterByLetter(bool fromBack) const {
+  const auto orderOfPairs = [this](TextView a, TextView b, TextView c, TextView d) {
+    return order(Text(a).append(b), Text(c).append(d), Strength::Accents);
+  };
   std::vector<std::pair<TextView, TextView>> extremes;  // the plain and the last letter of a rank
   for (std::size_t i = 0; i < letters_.size(); ++i) {
     const TextView first = TextView(letters_[i].characters).substr(0, 1);
@@ -99,9 +102,11 @@ bool Alphabet::letterByLetter() const {
   for (std::size_t i = 1; i < letters_.size(); ++i) {
     if (letters_[i].startsRank) continue;
     for (const auto& [plain, last] : extremes) {
-      const Text lower = Text(1, letters_[i - 1].characters[0]).append(last);
-      const Text upper = Text(1, letters_[i].characters[0]).append(plain);
-      if (order(lower, upper, Strength::Accents) >= 0) return false;
+      const TextView lower = TextView(letters_[i - 1].characters).substr(0, 1);
+      const TextView upper = TextView(letters_[i].characters).substr(0, 1);
+      const int decided = fromBack ? orderOfPairs(last, lower, plain, upper)
+                                   : orderOfPairs(lower, last, upper, plain);
+      if (decided >= 0) return false;
     }
   }
   return true;

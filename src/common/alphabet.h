@@ -27,6 +27,9 @@ class Alphabet {
   // Rising.
   const std::vector<Group>& letters() const { return letters_; }
 
+  // Of words with the same letters but for their accents, the last difference decides.
+  bool accentsFromBack() const { return accentsFromBack_; }
+
   // Characters that are no letter at all.
   const Text& ignored() const { return ignored_; }
 
@@ -43,11 +46,12 @@ class Alphabet {
   void divide(const Text& standing);
   void addLetter(char16_t character);
   Text spelling(char16_t character) const;
-  bool letterByLetter() const;
+  bool letterByLetter(bool fromBack) const;
   void tailor();
 
   const Collator& collator_;
   std::vector<Group> letters_;
+  bool accentsFromBack_ = false;
   Text ignored_;
   std::vector<std::pair<char16_t, Text>> spelled_;
 };

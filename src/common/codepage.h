@@ -10,8 +10,9 @@
 namespace termvik {
 
 // Writes `bytes` to `out` as characters and gives their number, which is never above that of the
-// bytes. The five bytes that Windows-1252 leaves undefined (81 8D 8F 90 9D) become U+0081 and so
-// on.
+// bytes. Every byte gives a character: the five bytes that Windows-1252 leaves undefined (81 8D 8F
+// 90 9D) become U+0081 and so on. Only where the system's page is one of the double-byte pages of
+// East Asia can two bytes be one.
 std::size_t decodeAnsi(std::string_view bytes, char16_t* out);
 inline Text decodeAnsi(std::string_view bytes) {
   Text text(bytes.size(), u'\0');
@@ -23,7 +24,7 @@ inline Text decodeAnsi(std::string_view bytes) {
 // becomes '?'.
 std::string encodeAnsi(TextView text);
 
-// All characters that a file can hold: the images of the bytes 00 to FF, in that order.
+// All characters that a file can hold in one byte: the images of the bytes 00 to FF, in that order.
 Text ansiCharacters();
 
 }  // namespace termvik

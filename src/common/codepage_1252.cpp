@@ -1,46 +1,14 @@
 // Windows-1252, the code page of the files on platforms that have no ANSI code page of their own.
 #include <algorithm>
-#include <array>
 
 #include "common/codepage.h"
+#include "common/windows_1252.h"
 
 namespace termvik {
 
 namespace {
 
-constexpr unsigned kFirstSpecial = 0x80;
-constexpr unsigned kFirstLatin1 = 0xA0;
-
-// The characters of the bytes 80 to 9F; all others have the code of their byte.
-constexpr std::array<char16_t, kFirstLatin1 - kFirstSpecial> kSpecial = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-constexpr bool isSpecial(unsigned byte) { return byte >= kFirstSpecial && byte < kFirstLatin1; }
-
-// By byte.
-constexpr std::array<char16_t, 256> kCharacters = [] {
-  std::array<char16_t, 256> characters{};
-  for (unsigned byte = 0; byte < characters.size(); ++byte) {
-    characters.at(byte) =
-        isSpecial(byte) ? kSpecial.at(byte - kFirstSpecial) : static_cast<char16_t>(byte);
-  }
-  return characters;
-}();
-
-char encode(char16_t character) {
-  if (character < kFirstSpecial || (character >= kFirstLatin1 && character <= 0xFF)) {
-    return static_cast<char>(character);
-  }
-  const auto* const found = std::find(kSpecial.begin(), kSpecial.end(), character);
-  if (found == kSpecial.end()) return '?';
-  return static_cast<char>(kFirstSpecial + static_cast<unsigned>(found - kSpecial.begin()));
-}
-
-}  // namespace
-
-namespace {
+char16_t decode(char byte) { return windows1252::decode(static_cast<unsigned char>(byte)); }
 
 // Decodes `Count` bytes at once: nearly all of them are the code of their character.
 template <std::size_t Count>
@@ -49,11 +17,9 @@ void decodePiece(const char* bytes, char16_t* out) {
   for (std::size_t i = 0; i < Count; ++i) {
     const auto byte = static_cast<unsigned char>(bytes[i]);
     out[i] = byte;
-    special |= isSpecial(byte) ? 1U : 0U;
+    special |= windows1252::isSpecial(byte) ? 1U : 0U;
   }
-  for (std::size_t i = 0; special != 0 && i < Count; ++i) {
-    out[i] = kCharacters[static_cast<unsigned char>(bytes[i])];
-  }
+  if (special != 0) std::transform(bytes, bytes + Count, out, decode);
 }
 
 // Pieces of `Count` bytes; the last one reaches back over bytes that are decoded already.
@@ -73,17 +39,23 @@ std::size_t decodeAnsi(std::string_view bytes, char16_t* out) {
   } else if (bytes.size() >= 8) {
     decodePieces<8>(bytes, out);
   } else {
-    for (const char byte : bytes) *out++ = kCharacters[static_cast<unsigned char>(byte)];
+    std::transform(bytes.begin(), bytes.end(), out, decode);
   }
   return bytes.size();
 }
 
 std::string encodeAnsi(TextView text) {
   std::string bytes(text.size(), '\0');
-  std::transform(text.begin(), text.end(), bytes.begin(), encode);
+  std::transform(text.begin(), text.end(), bytes.begin(), windows1252::encode);
   return bytes;
 }
 
-Text ansiCharacters() { return {kCharacters.begin(), kCharacters.end()}; }
+Text ansiCharacters() {
+  Text characters(256, u'\0');
+  for (unsigned byte = 0; byte < 256; ++byte) {
+    characters[byte] = windows1252::decode(static_cast<unsigned char>(byte));
+  }
+  return characters;
+}
 
 }  // namespace termvik

@@ -51,7 +51,7 @@ class Collator {
   std::vector<CollationElement> elements(TextView text) const;
 
   // True when the order of two texts follows from their elements alone: all primary weights from
-  // the front, then all secondary weights from the front.
+  // the front, then all secondary weights from the front or, in some languages, from the back.
   bool comparesByElements() const;
 
   // Those of `characters` that can change their elements because of another of `characters` before

@@ -9,7 +9,7 @@ namespace termvik {
 
 namespace {
 
-constexpr std::size_t kPiece = 1U << 16U;  // bytes read at a time
+constexpr std::size_t kPiece = 1U << 15U;  // bytes read at a time
 
 // In stretches that a count of one byte can hold, which the compiler counts many bytes at a time
 // (bench/load).

@@ -36,6 +36,7 @@ class LetterWalk {
 Letters::Letters(const Collator& collator, TextView characters) : table_(kCharacterCount) {
   const Alphabet alphabet(collator, characters);
   if (alphabet.letters().size() > kMostLetters) return;
+  accentsFromBack_ = alphabet.accentsFromBack();
   for (const char16_t character : alphabet.ignored()) table_[character].count = 0;
   Letter letter = kNoLetter;
   std::uint8_t rank = 0;

@@ -4,7 +4,7 @@
 // A letter is what two characters have in common when they are equal for the collator: `a` and `A`
 // are one letter, `å` is another, `æ` is the letters `a` `e`, a soft hyphen is no letter at all.
 // Two texts of known characters are equal exactly when their letters are the same, and their order
-// is that of the letters' ranks, then of the letters themselves.
+// is that of the letters' ranks, then of the letters themselves, from the front or from the back.
 #pragma once
 
 #include <array>
@@ -60,6 +60,9 @@ class Letters {
   // The place of a letter in the order, accents left out: 1 to 255.
   std::uint8_t rank(Letter letter) const { return ranks_[letter]; }
 
+  // Of texts whose letters have the same ranks, the last letter that differs decides.
+  bool accentsFromBack() const { return accentsFromBack_; }
+
   // True for the first of all letters of its rank, the one without an accent.
   bool isPlain(Letter letter) const { return rank(letter) != rank(letter - 1); }
 
@@ -67,6 +70,7 @@ class Letters {
   bool knowsAll(TextView text) const;
   void addSpelled(char16_t character, TextView spelling);
 
+  bool accentsFromBack_ = false;
   std::array<std::uint8_t, 256> ranks_{};
   std::vector<CharacterLetters> table_;  // by character
 };

@@ -57,7 +57,10 @@ void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
   entry.headHigh = head.high;
   entry.headLow = head.low;
   scratchKey_.push_back(0);
-  if (!plain) scratchKey_.insert(scratchKey_.end(), scratch_.begin(), scratch_.end());
+  if (!plain) {
+    if (letters.accentsFromBack()) std::reverse(scratch_.begin(), scratch_.end());
+    scratchKey_.insert(scratchKey_.end(), scratch_.begin(), scratch_.end());
+  }
   row.key = keys_.add({scratchKey_.data(), scratchKey_.size()});
   const bool dense =
       std::all_of(text.begin(), text.end(), [&](char16_t c) { return letters.of(c).count > 0; });

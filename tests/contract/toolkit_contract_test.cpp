@@ -11,6 +11,9 @@
 #ifdef TERMVIK_WITH_QT
 #include "toolkit/qt/qt_user.h"
 #endif
+#ifdef TERMVIK_WITH_WIN32
+#include "toolkit/win32/win32_user.h"
+#endif
 
 namespace termvik {
 namespace {
@@ -30,6 +33,9 @@ std::vector<NamedToolkit> toolkits() {
                                     }}};
 #ifdef TERMVIK_WITH_QT
   all.push_back({"qt", [](const Collation& c) { return makeQtUser(c); }});
+#endif
+#ifdef TERMVIK_WITH_WIN32
+  all.push_back({"win32", [](const Collation& c) { return makeWin32User(c); }});
 #endif
   return all;
 }

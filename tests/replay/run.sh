@@ -1,12 +1,25 @@
 #!/bin/sh
 # run.sh REPLAY TOOLKIT CASE SCRATCH: plays CASE/script.txt in a copy of CASE/files and compares to the
-# byte: the output with expected.jsonl, where @FOLDER@ stands for the folder, and the files with after/.
+# byte: the output with expected.jsonl, where @FOLDER@/ stands for the folder, and the files with
+# after/. The folder has a name that no 8-bit code page can write.
 set -eu
 replay=$1 toolkit=$2 case=$3 scratch=$4
-rm -rf "$scratch" && mkdir -p "$scratch/program"
-cp "$case"/files/* "$scratch/program"
-"$replay" --toolkit "$toolkit" --folder "$scratch/program" "$case/script.txt" >"$scratch/output.jsonl"
-sed "s|@FOLDER@|$scratch/program|g" "$case/expected.jsonl" | diff -u - "$scratch/output.jsonl"
+folder="$scratch/Ordböcker Ł"
+rm -rf "$scratch" && mkdir -p "$folder"
+cp "$case"/files/* "$folder"
+shown=$folder/
+case $replay in
+*.exe) # what Windows calls these files
+  wine=$(dirname "$0")/../../scripts/wine
+  shown=$("$wine" --path "$folder")\\
+  set -- "$wine" "$replay" --toolkit "$toolkit" --folder "${shown%?}" "$("$wine" --path "$case")\\script.txt"
+  ;;
+*) set -- "$replay" --toolkit "$toolkit" --folder "$folder" "$case/script.txt" ;;
+esac
+"$@" >"$scratch/output.jsonl"
+# Each backslash stands twice in JSON, and each of these twice in what sed puts in.
+shown=$(printf %s "$shown" | sed 's/\\/\\\\\\\\/g')
+sed "s|@FOLDER@/|$shown|g" "$case/expected.jsonl" | diff -u - "$scratch/output.jsonl"
 for file in "$case"/after/*; do
-  [ ! -e "$file" ] || diff -u "$file" "$scratch/program/${file##*/}"
+  [ ! -e "$file" ] || diff -u "$file" "$folder/${file##*/}"
 done

@@ -12,6 +12,7 @@
 
 #include "app/program.h"
 #include "common/codepage.h"
+#include "common/files.h"
 #include "player.h"
 #include "toolkit/user.h"
 
@@ -70,8 +71,10 @@ struct Folder {
     return replaced({std::istreambuf_iterator<char>(file), {}}, "\r\n", "/");
   }
 
-  std::filesystem::path path = std::filesystem::temp_directory_path() /
-                               ("termvik-" + std::to_string(std::random_device{}()));
+  // Its name is one that no 8-bit code page can write.
+  std::filesystem::path path =
+      fileIn(std::filesystem::temp_directory_path(),
+             u"Ordböcker Ł " + fromUtf8(std::to_string(std::random_device{}())));
 };
 
 // A glossary store over two files of its own.
@@ -106,7 +109,7 @@ class Desk : public testing::Test {
   Desk() {
     app.Path = folder.path;
     user->seesMessage = [this](TextView prompt, TextView) {
-      messages += rows() + replaced(flat(prompt), folder.path.string(), "@") + "|";
+      messages += rows() + replaced(flat(prompt), flat(pathText(folder.path / "")), "@/") + "|";
     };
   }
 
@@ -129,7 +132,7 @@ class Desk : public testing::Test {
 
   Folder folder;
   App app;
-  std::string messages;  // each behind the rows of its moment; the folder is @
+  std::string messages;  // each behind the rows of its moment; @/ is the folder
   std::ostringstream out;
   std::unique_ptr<User> user = makeMemoryUser(swedish(), {28800, 16200});
   replay::Player player{*user, swedish(), app, out};

@@ -1,8 +1,10 @@
 // termvik-replay: the program under a script of what a user does.
 //
-//   termvik-replay [--toolkit memory|qt] [--screen WIDTHxHEIGHT] --folder DIR [SCRIPT]
+//   termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT] --folder DIR [SCRIPT]
 //
 // See docs/replay.md for the script's commands and what is printed.
+#include "tool.h"
+
 #include <charconv>
 #include <fstream>
 #include <iostream>
@@ -10,22 +12,26 @@
 #include <string>
 #include <string_view>
 
+#include "common/files.h"
 #include "player.h"
 #ifdef TERMVIK_WITH_QT
 #include "toolkit/qt/qt_user.h"
 #endif
+#ifdef TERMVIK_WITH_WIN32
+#include "toolkit/win32/win32_user.h"
+#endif
+
+namespace termvik {
 
 namespace {
-
-using namespace termvik;
 
 constexpr int kWrongUse = 2;
 
 struct Options {
   std::string toolkit = "memory";
   ScreenSize screen{28800, 16200};
-  std::string folder;
-  std::string script;
+  std::filesystem::path folder;
+  std::filesystem::path script;
 };
 
 bool readScreen(std::string_view text, ScreenSize& screen) {
@@ -37,29 +43,29 @@ bool readScreen(std::string_view text, ScreenSize& screen) {
 }
 
 // False, with the reason in `wrong`, when the command line cannot be used.
-bool readOptions(int count, char** arguments, Options& options, std::string& wrong) {
-  for (int i = 1; i < count; ++i) {
-    const std::string_view argument = arguments[i];
+bool readOptions(const replay::Arguments& arguments, Options& options, std::string& wrong) {
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string argument = toUtf8(pathText(arguments[i]));
     const bool takesValue =
         argument == "--toolkit" || argument == "--screen" || argument == "--folder";
-    if (takesValue && i + 1 == count) {
-      wrong = std::string(argument) + " needs a value";
+    if (takesValue && i + 1 == arguments.size()) {
+      wrong = argument + " needs a value";
       return false;
     }
     if (argument == "--toolkit") {
-      options.toolkit = arguments[++i];
+      options.toolkit = toUtf8(pathText(arguments[++i]));
     } else if (argument == "--folder") {
       options.folder = arguments[++i];
     } else if (argument == "--screen") {
-      if (!readScreen(arguments[++i], options.screen)) {
+      if (!readScreen(toUtf8(pathText(arguments[++i])), options.screen)) {
         wrong = "--screen takes WIDTHxHEIGHT in twips";
         return false;
       }
     } else if (argument.starts_with("--") || !options.script.empty()) {
-      wrong = "what is " + std::string(argument) + "?";
+      wrong = "what is " + argument + "?";
       return false;
     } else {
-      options.script = argument;
+      options.script = arguments[i];
     }
   }
   if (options.folder.empty()) wrong = "--folder is missing";
@@ -70,6 +76,9 @@ std::unique_ptr<User> makeUser(const Options& options, const Collation& collatio
   if (options.toolkit == "memory") return makeMemoryUser(collation, options.screen);
 #ifdef TERMVIK_WITH_QT
   if (options.toolkit == "qt") return makeQtUser(collation);
+#endif
+#ifdef TERMVIK_WITH_WIN32
+  if (options.toolkit == "win32") return makeWin32User(collation);
 #endif
   return nullptr;
 }
@@ -101,7 +110,7 @@ int run(const Options& options) {
   if (options.script.empty()) return playScript(std::cin, player);
   std::ifstream script(options.script, std::ios::binary);
   if (!script) {
-    std::cerr << "termvik-replay: cannot read " << options.script << '\n';
+    std::cerr << "termvik-replay: cannot read " << toUtf8(pathText(options.script)) << '\n';
     return kWrongUse;
   }
   return playScript(script, player);
@@ -109,14 +118,16 @@ int run(const Options& options) {
 
 }  // namespace
 
-int main(int count, char** arguments) {
+int replay::runTool(const Arguments& arguments) {
   Options options;
   std::string wrong;
-  if (!readOptions(count, arguments, options, wrong)) {
+  if (!readOptions(arguments, options, wrong)) {
     std::cerr << "termvik-replay: " << wrong
-              << "\nusage: termvik-replay [--toolkit memory|qt] [--screen WIDTHxHEIGHT]"
+              << "\nusage: termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT]"
                  " --folder DIR [SCRIPT]\n";
     return kWrongUse;
   }
   return run(options);
 }
+
+}  // namespace termvik

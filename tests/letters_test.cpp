@@ -1,0 +1,82 @@
+// The letters of characters, and the search for letters, held against what takes longer.
+#include "common/letters.h"
+
+#include "common/find_letters.h"
+#include "support/desk.h"
+
+namespace termvik::test {
+
+struct LettersOf : testing::TestWithParam<const char*> {
+  // The order of two texts of known characters by their letters alone.
+  int order(TextView a, TextView b) const {
+    const auto spelled = [this](TextView text) {
+      std::vector<Letter> letters(Letters::roomFor(text));
+      letters.resize(collation.letters().spell(text, letters.data()).count);
+      std::vector<int> ranks;
+      for (const Letter letter : letters) ranks.push_back(collation.letters().rank(letter));
+      if (collation.letters().accentsFromBack()) std::reverse(letters.begin(), letters.end());
+      return std::pair(ranks, letters);
+    };
+    const auto left = spelled(a);
+    const auto right = spelled(b);
+    return left < right ? -1 : left == right ? 0 : 1;
+  }
+
+  void expectSameOrder(TextView a, TextView b) const {
+    const int judged = collation.textCompare(a, b);
+    ASSERT_EQ(order(a, b), judged < 0 ? -1 : judged > 0 ? 1 : 0) << toUtf8(a) << " | " << toUtf8(b);
+    ASSERT_EQ(collation.letters().same(a, b), judged == 0) << toUtf8(a) << " | " << toUtf8(b);
+  }
+
+  Text knownCharacters() const {
+    Text known;
+    for (const char16_t c : ansiCharacters()) {
+      if (collation.letters().of(c).known()) known += c;
+    }
+    return known;
+  }
+
+  Collation collation{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(Locales, LettersOf,
+                         testing::Values("sv_SE", "da_DK", "de_DE", "fr_FR", "fr_CA", "cs_CZ",
+                                         "br_FR", "es_ES", "hu_HU"));
+
+TEST_P(LettersOf, StandInTheCollatorsOrderWithEachOther) {
+  const Text known = knownCharacters();
+  for (const char16_t& a : known) {
+    for (const char16_t& b : known) ASSERT_NO_FATAL_FAILURE(expectSameOrder({&a, 1}, {&b, 1}));
+  }
+  Dice dice(5);
+  for (int round = 0; !known.empty() && round < 20000; ++round) {
+    const Text common = dice.text(known, 2);
+    ASSERT_NO_FATAL_FAILURE(
+        expectSameOrder(common + dice.text(known, 3), common + dice.text(known, 3)));
+  }
+}
+
+TEST(Letters, AreKnownOfAllThatWordsAreMadeOf) {
+  for (const char* locale : {"sv_SE", "de_DE", "en_GB", "fr_FR", "fr_CA"}) {
+    const Collation collation(locale);
+    for (const char16_t c :
+         TextView(u"aBcdefghijklmnopqrstuvwxyzÅåäöéèêëàâçîïôûüÿœæß -'.,()/0189\u00AD")) {
+      EXPECT_TRUE(collation.letters().of(c).known()) << locale << toUtf8({&c, 1});
+    }
+  }
+}
+
+TEST(FindLetters, FindsTheFirstPlaceInTextsOfAnyLength) {
+  using Bytes = std::basic_string<Letter>;
+  Dice dice(6);
+  for (int round = 0; round < 20000; ++round) {
+    Bytes letters(dice.below(300), 1);
+    for (Letter& letter : letters) letter = static_cast<Letter>(1 + dice.below(4));
+    Bytes wanted(1 + dice.below(6), 1);
+    for (Letter& letter : wanted) letter = static_cast<Letter>(1 + dice.below(4));
+    const auto any = [&] { return dice.below(wanted.size()); };
+    ASSERT_EQ(findLetters(letters, wanted, {any(), any(), any()}), letters.find(wanted)) << round;
+  }
+}
+
+}  // namespace termvik::test

@@ -1,0 +1,16 @@
+// The tool behind the entry point that the platform asks for.
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace termvik::replay {
+
+// What stands on the command line behind the program's name. Paths hold every text that it can
+// have.
+using Arguments = std::vector<std::filesystem::path>;
+
+// The program's exit status. Standard input and output carry bytes: no line end is changed.
+int runTool(const Arguments& arguments);
+
+}  // namespace termvik::replay
