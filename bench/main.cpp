@@ -18,7 +18,7 @@ const std::set<std::string> kColumns = {"time", "pass", "ratio", "limit"};
 class LineReporter : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override {
-    std::printf("%-28s%7s%11s%11s%8s%6s\n", "benchmark", "size", "time ms", "pass ms", "ratio",
+    std::printf("%-30s%8s%11s%11s%8s%6s\n", "benchmark", "size", "time ms", "pass ms", "ratio",
                 "limit");
     return true;
   }
@@ -38,7 +38,7 @@ class LineReporter : public benchmark::BenchmarkReporter {
     };
     const double limit = value("limit");
     const bool judged = limit != Limit::kNone;
-    std::printf("%-28s%7s%11.4f%11.4f%8.2f", run.run_name.function_name.c_str(),
+    std::printf("%-30s%8s%11.4f%11.4f%8.2f", run.run_name.function_name.c_str(),
                 run.run_name.args.c_str(), 1e3 * value("time"), 1e3 * value("pass"),
                 value("ratio"));
     if (judged) {
