@@ -1,6 +1,8 @@
 // The letters of characters, and the search for letters, held against what takes longer.
 #include "common/letters.h"
 
+#include <algorithm>
+
 #include "common/find_letters.h"
 #include "support/desk.h"
 
@@ -12,8 +14,9 @@ struct LettersOf : testing::TestWithParam<const char*> {
     const auto spelled = [this](TextView text) {
       std::vector<Letter> letters(Letters::roomFor(text));
       letters.resize(collation.letters().spell(text, letters.data()).count);
-      std::vector<int> ranks;
-      for (const Letter letter : letters) ranks.push_back(collation.letters().rank(letter));
+      std::vector<int> ranks(letters.size());
+      std::transform(letters.begin(), letters.end(), ranks.begin(),
+                     [this](Letter letter) { return collation.letters().rank(letter); });
       if (collation.letters().accentsFromBack()) std::reverse(letters.begin(), letters.end());
       return std::pair(ranks, letters);
     };

@@ -94,9 +94,9 @@ bool Alphabet::letterByLetter(bool fromBack) const {
     return order(Text(a).append(b), Text(c).append(d), Strength::Accents);
   };
   std::vector<std::pair<TextView, TextView>> extremes;  // the plain and the last letter of a rank
-  for (std::size_t i = 0; i < letters_.size(); ++i) {
-    const TextView first = TextView(letters_[i].characters).substr(0, 1);
-    if (letters_[i].startsRank) extremes.emplace_back(first, first);
+  for (const Group& letter : letters_) {
+    const TextView first = TextView(letter.characters).substr(0, 1);
+    if (letter.startsRank) extremes.emplace_back(first, first);
     extremes.back().second = first;
   }
   for (std::size_t i = 1; i < letters_.size(); ++i) {

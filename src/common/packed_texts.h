@@ -85,7 +85,7 @@ class PackedTexts {
     room_ = room;
   }
 
-  std::unique_ptr<Char[]> characters_;  // no vector: what is added is written once, not twice
+  std::unique_ptr<Char[]> characters_;  // no vector: what is added is written once (bench/load)
   std::size_t room_ = 0;                // for so many characters
   std::size_t used_ = 0;
   std::vector<std::uint32_t> ends_;
