@@ -9,7 +9,6 @@
 #include <cstdlib>
 #include <set>
 #include <string_view>
-#include <tuple>
 #include <unordered_map>
 #include <utility>
 #include <windows.h>
@@ -50,9 +49,6 @@ struct SortKey {
   bool operator==(const SortKey& other) const {
     return letters == other.letters && accents == other.accents && kinds == other.kinds &&
            rest == other.rest;
-  }
-  bool operator<(const SortKey& other) const {
-    return std::tie(letters, accents) < std::tie(other.letters, other.accents);
   }
 
   // Becomes the key of a text of two pieces, where neither changes the other.
@@ -261,6 +257,7 @@ std::vector<CollationElement> Collator::elements(TextView text) const {
   return result;
 }
 
+// Windows weighs in no other way.
 bool Collator::comparesByElements() const { return true; }
 
 // What is not known to be plain is counted among them.

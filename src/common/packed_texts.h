@@ -26,22 +26,10 @@ class PackedTexts {
     if (characters > room_) moveTo(characters);
   }
 
-  void clear() { *this = PackedTexts(); }
-
-  void append(View text) {
-    appendToLast(text);
-    endText();
-  }
-
-  // A text in pieces: any number of appendToLast, then endText.
-  void appendToLast(View piece) {
-    std::copy(piece.begin(), piece.end(), roomFor(piece.size()));
-    takeRoom(piece.size());
-  }
+  // A text is what takeRoom has taken since the last endText.
   void endText() { ends_.push_back(static_cast<std::uint32_t>(used_)); }
 
-  // Room behind the last piece for `most` characters that the caller writes; takeRoom makes the
-  // first `count` of them a piece.
+  // Room for `most` characters that the caller writes; takeRoom adds the first `count` of them.
   Char* roomFor(std::size_t most) {
     if (most > room_ - used_) moveTo(std::max(used_ + most, 2 * used_));
     return characters_.get() + used_;
