@@ -1,0 +1,16 @@
+// What of a text Windows-1252 cannot hold.
+#pragma once
+
+#include "messages.h"
+#include "words.h"
+
+namespace termvik::tool {
+
+// A character of the code page that ends no line.
+bool isPlainInCodePage(char16_t character);
+
+// `text` with `?` for each character that Windows-1252 lacks. Each is told with its place: as a
+// warning when it may become `?`, as an error otherwise.
+Text inCodePage(TextView text, Place place, bool lossy, Messages& messages);
+
+}  // namespace termvik::tool

@@ -1,0 +1,102 @@
+#include "text_in.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "common/system/windows_1252.h"
+#include "messages.h"
+
+namespace termvik::tool {
+
+namespace {
+
+using Name = std::pair<std::string_view, Encoding>;
+
+constexpr std::array<Name, 4> kNames{{{"utf-8", Encoding::Utf8},
+                                      {"utf-16le", Encoding::Utf16Le},
+                                      {"utf-16be", Encoding::Utf16Be},
+                                      {"windows-1252", Encoding::Windows1252}}};
+
+constexpr std::array<Name, 3> kMarks{{{"\xEF\xBB\xBF", Encoding::Utf8},
+                                      {"\xFF\xFE", Encoding::Utf16Le},
+                                      {"\xFE\xFF", Encoding::Utf16Be}}};
+
+Text fromUtf16(std::string_view bytes, bool littleEndian) {
+  Text text(bytes.size() / 2, u'\0');
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto first = static_cast<unsigned char>(bytes[2 * i]);
+    const auto second = static_cast<unsigned char>(bytes[2 * i + 1]);
+    const unsigned unit = littleEndian ? second << 8U | first : first << 8U | second;
+    text[i] = static_cast<char16_t>(unit);
+  }
+  return text;
+}
+
+Text fromWindows1252(std::string_view bytes) {
+  Text text(bytes.size(), u'\0');
+  std::transform(bytes.begin(), bytes.end(), text.begin(),
+                 [](char byte) { return windows1252::decode(static_cast<unsigned char>(byte)); });
+  return text;
+}
+
+// The first line, as editors count, that is no UTF-8; a character never spans two lines.
+std::size_t firstBadLine(std::string_view bytes) {
+  std::size_t line = 1;
+  while (!bytes.empty()) {
+    const std::size_t end = std::min(bytes.find_first_of("\r\n"), bytes.size());
+    if (!isUtf8(bytes.substr(0, end))) break;
+    bytes.remove_prefix(end);
+    bytes.remove_prefix(bytes.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, bytes.size()));
+    ++line;
+  }
+  return line;
+}
+
+}  // namespace
+
+std::optional<Encoding> encodingNamed(std::string_view name) {
+  std::string lower(name);
+  for (char& letter : lower)
+    letter = letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter;
+  for (const auto& [known, encoding] : kNames) {
+    if (lower == known) return encoding;
+  }
+  return std::nullopt;
+}
+
+ByteOrderMark byteOrderMark(std::string_view bytes) {
+  for (const auto& [mark, encoding] : kMarks) {
+    if (bytes.starts_with(mark)) return {encoding, mark.size()};
+  }
+  return {};
+}
+
+bool looksLikeUtf16(std::string_view bytes) {
+  std::array<std::size_t, 2> nuls{};
+  for (std::size_t i = 0; i < bytes.size(); ++i) nuls.at(i % 2) += bytes[i] == '\0' ? 1 : 0;
+  const std::size_t pairs = bytes.size() / 2;
+  const auto [fewer, more] = std::minmax(nuls[0], nuls[1]);
+  return pairs > 1 && 2 * more > pairs && 10 * fewer < more;
+}
+
+Text decodeText(std::string_view bytes, std::optional<Encoding> encoding, const std::string& name) {
+  const ByteOrderMark mark = byteOrderMark(bytes);
+  if (!encoding || encoding == mark.encoding) bytes.remove_prefix(mark.length);
+  if (!encoding) encoding = mark.encoding;
+  switch (encoding.value_or(Encoding::Utf8)) {
+    case Encoding::Utf8:
+      if (isUtf8(bytes)) return fromUtf8(bytes);
+      if (!encoding) break;
+      throw Failure(placeText(name, firstBadLine(bytes)) + "error: this is no UTF-8");
+    case Encoding::Utf16Le:
+    case Encoding::Utf16Be:
+      if (bytes.size() % 2 == 0) return fromUtf16(bytes, encoding == Encoding::Utf16Le);
+      throw Failure(name + ": error: this is no UTF-16: it ends inside a character");
+    case Encoding::Windows1252:
+      break;
+  }
+  return fromWindows1252(bytes);
+}
+
+}  // namespace termvik::tool

@@ -1,0 +1,33 @@
+// The characters of a file that somebody's editor, spreadsheet or other program has saved.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "common/system/text.h"
+
+namespace termvik::tool {
+
+enum class Encoding : std::uint8_t { Utf8, Utf16Le, Utf16Be, Windows1252 };
+
+std::optional<Encoding> encodingNamed(std::string_view name);
+
+// The encoding that a byte order mark at the beginning of `bytes` stands for, and the mark's
+// length.
+struct ByteOrderMark {
+  std::optional<Encoding> encoding;
+  std::size_t length = 0;
+};
+ByteOrderMark byteOrderMark(std::string_view bytes);
+
+// UTF-16 without a mark: half of the pairs of bytes, or more, have a NUL on one and the same side.
+bool looksLikeUtf16(std::string_view bytes);
+
+// A mark decides, else what is well-formed UTF-8 is that, and all else Windows-1252; `encoding`
+// overrules. `name` is the file's for the Failure that is thrown when the bytes are not what they
+// should be. A mark is no part of the text.
+Text decodeText(std::string_view bytes, std::optional<Encoding> encoding, const std::string& name);
+
+}  // namespace termvik::tool
