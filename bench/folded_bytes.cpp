@@ -5,7 +5,7 @@
 
 #include <unicode/uchar.h>
 
-#include "common/codepage.h"
+#include "common/system/codepage.h"
 
 namespace termvik::bench {
 

@@ -7,7 +7,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include "common/codepage.h"
+#include "common/system/codepage.h"
 #include "sample_glossary.h"
 #include "sample_program.h"
 #include "side_by_side.h"

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "letters.h"
+
 namespace termvik::bench {
 
 PackedWeights::PackedWeights(const Collation& collation, const std::vector<TextView>& words) {

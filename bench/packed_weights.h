@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "common/collation.h"
-#include "common/text.h"
+#include "common/collation/collation.h"
+#include "common/system/text.h"
 
 namespace termvik::bench {
 

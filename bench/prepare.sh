@@ -1,12 +1,11 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # Sourced by the scripts that run the benchmarks: builds them, and opens a display for the window's.
 source scripts/setup.sh
 
 subjects=(load fill key_stroke full_search doublets start window)
 
 prepare() {
-  need_packages "${build_packages[@]}" "${display_packages[@]}" dbus libbenchmark-dev \
-    libxcb-damage0-dev
+  need_packages "${build_packages[@]}" "${display_packages[@]}" "${bench_packages[@]}"
   {
     cmake --preset bench
     cmake --build --preset bench

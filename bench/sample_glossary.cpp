@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "common/codepage.h"
+#include "common/system/codepage.h"
 
 namespace termvik::bench {
 

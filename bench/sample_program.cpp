@@ -1,6 +1,7 @@
 #include "sample_program.h"
 
 #include "sample_glossary.h"
+#include "toolkit/memory/memory_hands.h"
 
 namespace termvik::bench {
 
@@ -30,9 +31,9 @@ std::unique_ptr<defWords> loadedStore(std::int64_t entries) {
 }
 
 SampleProgram::SampleProgram(std::int64_t entries)
-    : user_(makeMemoryUser(swedish(), kScreen)),
+    : hands_(makeMemoryHands(swedish(), kScreen)),
       app_(appIn(sampleFolder(entries))),
-      program_(user_->toolkit(), swedish(), app_) {
+      program_(hands_->toolkit(), swedish(), app_) {
   program_.start();
   choose(u"optGlossary", kBothGlossaries);
 }
@@ -40,7 +41,7 @@ SampleProgram::SampleProgram(std::int64_t entries)
 void SampleProgram::choose(TextView group, std::int16_t index) {
   for (const auto& control : window().controls()) {
     const ControlDesign& design = control->design();
-    if (design.name == group && design.index == index) user_->click(*control);
+    if (design.name == group && design.index == index) hands_->click(*control);
   }
 }
 
@@ -49,8 +50,7 @@ void fillList(ListBox& list, defWords& store) {
     bool getFirst = true;
     TextView word;
     while (store.gEntries(i).getGlossaryWord(store.gWordType, getFirst, word)) {
-      list.AddItem(word);
-      list.setItemData(list.NewIndex(), i);
+      list.AddItem(word, i);
     }
   }
 }

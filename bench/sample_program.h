@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "app/program.h"
-#include "toolkit/user.h"
+#include "toolkit/shared/hands.h"
 
 namespace termvik::bench {
 
@@ -15,21 +15,21 @@ const Collation& swedish();
 // The store, loaded with the sample of that many entries.
 std::unique_ptr<defWords> loadedStore(std::int64_t entries);
 
-// The program with both glossaries of a sample in its list, and its user.
+// The program with both glossaries of a sample in its list, and hands on it.
 class SampleProgram {
  public:
   explicit SampleProgram(std::int64_t entries);
 
   ListBox& list() const { return window().listBox(u"lstWords"); }
 
-  void type(TextView text) { user_->replaceText(window().textBox(u"txtSearch"), text); }
+  void type(TextView text) { hands_->replaceText(window().editBox(u"txtSearch"), text); }
   void choose(TextView group, std::int16_t index);
-  void search() { user_->click(window().commandButton(u"cmdSearchAgain")); }
+  void search() { hands_->click(window().commandButton(u"cmdSearchAgain")); }
 
  private:
-  Window& window() const { return *user_->toolkit().Forms().front(); }
+  Window& window() const { return *hands_->toolkit().Forms().front(); }
 
-  std::unique_ptr<User> user_;
+  std::unique_ptr<Hands> hands_;
   App app_;
   Program program_;
 };

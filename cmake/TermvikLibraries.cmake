@@ -1,10 +1,11 @@
-# The libraries of the tests and of the replay tool: Debian's own where the build is for this very
+# The libraries of the tests and of the replay tool: the system's own where the build is for this very
 # system, otherwise made from their sources, which Debian ships as well.
+if(NOT BUILD_TESTING)
+  return()
+endif()
 if(NOT CMAKE_CROSSCOMPILING)
   find_package(nlohmann_json REQUIRED)
-  if(TERMVIK_TESTS)
-    find_package(GTest REQUIRED)
-  endif()
+  find_package(GTest REQUIRED)
   return()
 endif()
 
@@ -16,9 +17,7 @@ add_library(nlohmann_json::nlohmann_json INTERFACE IMPORTED GLOBAL)
 target_include_directories(nlohmann_json::nlohmann_json
                            INTERFACE ${PROJECT_BINARY_DIR}/include)
 
-if(TERMVIK_TESTS)
-  set(BUILD_GMOCK OFF)
-  set(INSTALL_GTEST OFF)
-  set(CMAKE_POLICY_DEFAULT_CMP0077 NEW) # else its options hide the two above
-  add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
-endif()
+set(BUILD_GMOCK OFF)
+set(INSTALL_GTEST OFF)
+set(CMAKE_POLICY_DEFAULT_CMP0077 NEW) # else its options hide the two above
+add_subdirectory(/usr/src/googletest ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)

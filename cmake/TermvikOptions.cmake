@@ -24,9 +24,28 @@ if(WIN32)
                       $<$<CONFIG:Release>:-s>)
 endif()
 
+# What makes an attack on a fault of the program harder, as Debian builds its packages; bench/README.md
+# tells what it costs. Sanitizers have checks of their own.
+if(NOT TERMVIK_SANITIZE)
+  target_compile_options(termvik_options INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
+  if(WIN32)
+    target_link_options(termvik_options INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong>)
+  else()
+    target_compile_definitions(termvik_options INTERFACE $<$<CONFIG:Release>:_GLIBCXX_ASSERTIONS>
+                                                         $<$<CONFIG:Release>:_FORTIFY_SOURCE=2>)
+    target_link_options(termvik_options INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+    include(CheckCXXCompilerFlag)
+    check_cxx_compiler_flag(-fcf-protection TERMVIK_CAN_GUARD_JUMPS)
+    if(TERMVIK_CAN_GUARD_JUMPS)
+      target_compile_options(termvik_options INTERFACE $<$<CONFIG:Release>:-fcf-protection>)
+    endif()
+  endif()
+endif()
+
 if(TERMVIK_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined
                  -fno-omit-frame-pointer)
   target_compile_options(termvik_options INTERFACE ${sanitizers})
+  target_compile_definitions(termvik_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(termvik_options INTERFACE ${sanitizers})
 endif()

@@ -1,9 +1,9 @@
 // The letters of characters, and the search for letters, held against what takes longer.
-#include "common/letters.h"
+#include "letters.h"
 
 #include <algorithm>
 
-#include "common/find_letters.h"
+#include "find_letters.h"
 #include "support/desk.h"
 
 namespace termvik::test {
@@ -69,16 +69,43 @@ TEST(Letters, AreKnownOfAllThatWordsAreMadeOf) {
   }
 }
 
-TEST(FindLetters, FindsTheFirstPlaceInTextsOfAnyLength) {
-  using Bytes = std::basic_string<Letter>;
-  Dice dice(6);
+using Bytes = std::basic_string<Letter>;
+
+struct WantedLettersIn : testing::Test {
+  Bytes letters(std::size_t count, std::size_t kinds) {
+    Bytes bytes;
+    for (; count > 0; --count) bytes += static_cast<Letter>(1 + dice.below(kinds));
+    return bytes;
+  }
+
+  // The first place that is not refused, as the standard library finds it.
+  void expectSamePlace(const Bytes& text, const Bytes& wanted) {
+    const auto accept = [&](std::size_t place) { return (place + wanted.size()) % 3 == 0; };
+    std::size_t expected = text.find(wanted);
+    while (expected != Bytes::npos && !accept(expected)) expected = text.find(wanted, expected + 1);
+    LetterCounts counts{};
+    for (const Letter letter : letters(9, 5)) ++counts.at(letter);
+    const WantedLetters search({wanted.begin(), wanted.end()}, counts);
+    ASSERT_EQ(search.findIn(text, accept), expected) << wanted.size() << " in " << text.size();
+  }
+
+  Dice dice{6};
+};
+
+TEST_F(WantedLettersIn, TextsOfAnyLengthAreFoundAtTheFirstPlace) {
   for (int round = 0; round < 20000; ++round) {
-    Bytes letters(dice.below(300), 1);
-    for (Letter& letter : letters) letter = static_cast<Letter>(1 + dice.below(4));
-    Bytes wanted(1 + dice.below(6), 1);
-    for (Letter& letter : wanted) letter = static_cast<Letter>(1 + dice.below(4));
-    const auto any = [&] { return dice.below(wanted.size()); };
-    ASSERT_EQ(findLetters(letters, wanted, {any(), any(), any()}), letters.find(wanted)) << round;
+    expectSamePlace(letters(dice.below(300), 4), letters(1 + dice.below(6), 4));
+  }
+}
+
+// A text that repeats itself, so that a refused place and the next one overlap.
+TEST_F(WantedLettersIn, APeriodicTextAreFoundWhereTheyAreManyToo) {
+  for (int round = 0; round < 5000; ++round) {
+    const Bytes period = letters(1 + dice.below(9), 2);
+    Bytes text;
+    while (text.size() < 300) text += period;
+    if (round % 2 == 0) text[dice.below(text.size())] = 3;
+    expectSamePlace(text, text.substr(dice.below(100), 60 + dice.below(80)));
   }
 }
 

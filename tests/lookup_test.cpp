@@ -3,59 +3,7 @@
 
 namespace termvik::test {
 
-struct LookUp : Desk {
-  // The rows that the list is made to select by a new search text, in their order.
-  std::string moves(TextView text) {
-    std::string selected;
-    const auto click = list().Click;
-    list().Click = [&] {
-      selected += std::to_string(list().ListIndex()) + " ";
-      click();
-    };
-    user->replaceText(search(), text);
-    list().Click = click;
-    return selected;
-  }
-
-  // The same by the rule of the search box, one row and one character after the other.
-  std::string plainMoves(TextView text) {
-    const auto relation = [&](std::int32_t row, std::size_t p) {
-      return swedish().textCompare(list().List(row).substr(0, p), text.substr(0, p));
-    };
-    const std::int32_t count = list().ListCount();
-    std::int32_t top = 0;
-    std::int32_t bottom = 0;
-    int order = 0;
-    for (std::size_t p = 1; p <= text.size() && order <= 0; ++p) {
-      std::int32_t r = top;
-      while (r < count && (order = relation(r, p)) < 0) ++r;
-      if (order != 0) continue;
-      top = bottom = r;
-      while (p == text.size() && bottom + 1 < count && relation(bottom + 1, p) == 0) ++bottom;
-    }
-    return (bottom > top ? std::to_string(bottom) + " " : "") + std::to_string(top) + " ";
-  }
-};
-
-TEST_F(LookUp, FollowsThePlainRuleOnAnyList) {
-  Dice dice(5);
-  for (int round = 0; round < 60; ++round) {
-    Text words;
-    for (std::size_t i = dice.below(40); i > 0; --i) {
-      words += u"---/S: " + dice.text(round % 3 == 0 ? Dice::kHard : u"abcåABß -", 5) + u"/";
-    }
-    open(toUtf8(words + u"---/S: last"));
-    if (round % 2 == 0) play("check 0");
-    for (int query = 0; query < 40; ++query) {
-      const auto row = dice.below(static_cast<std::size_t>(list().ListCount()));
-      Text text(list().List(static_cast<std::int32_t>(row)).substr(0, 1 + dice.below(6)));
-      if (dice.below(3) == 0) text += dice.text(u"abåßcA", 2);
-      user->replaceText(search(), u"☃");
-      ASSERT_EQ(moves(text), plainMoves(text)) << toUtf8(text) << " in " << rows();
-    }
-    play("close");
-  }
-}
+struct LookUp : Desk {};
 
 TEST_F(LookUp, KeepsTheArrowsAndEnterFromTheBox) {
   open("S: a/b");
@@ -118,9 +66,9 @@ TEST_F(LookUp, FindsWhatOneEntryAfterTheOtherFinds) {
         for (auto term = terms.begin(); !key && term != terms.end(); ++term) {
           find(store.words.gEntries(i), *term, key);
         }
-        if (key) hits.setItemData(hits.add(*key), i);
+        if (key) hits.add(*key, i);
       }
-      user->replaceText(search(), text);
+      hands->replaceText(search(), text);
       play("key Enter");
       ASSERT_EQ(rows(), rowsText(hits)) << toUtf8(text);
     }

@@ -9,15 +9,15 @@ using Windows = Desk;
 TEST_F(Windows, AboutStandsInTheMiddleOfTheScreenAndClosesInThreeWays) {
   open("");
   std::size_t opened = 0;
-  user->seesModalBox = [&](Window& box) {
+  hands->seesModalBox = [&](Window& box) {
     EXPECT_EQ(box.outerPlace(), (Place{10050, 5167.5, 8700, 5865}));
     EXPECT_EQ(flat(box.textBox(u"Text2").text()),
               "Authors: Sigvard Ek and Tore Holm/Version: 1.0.4  2004-12-21");
     const std::array<std::function<void()>, 3> ways = {box.commandButton(u"cmdOK").Click, box.Click,
                                                        box.Deactivate};
-    EXPECT_EQ(user->toolkit().Forms().size(), 2U);
+    EXPECT_EQ(hands->toolkit().Forms().size(), 2U);
     ways.at(opened++)();
-    EXPECT_EQ(user->toolkit().Forms().size(), 1U);
+    EXPECT_EQ(hands->toolkit().Forms().size(), 1U);
   };
   play("menu mnuAbout\nmenu mnuAbout\nmenu mnuAbout");
   EXPECT_EQ(opened, 3U);
@@ -38,7 +38,7 @@ TEST_F(Windows, ShowTheFilesAsTheyAreAtTheLastReading) {
     play("menu mnuReRead");
     EXPECT_EQ(rows() + article(), "gamma/1 S: gamma/E: alpha1//");
     std::filesystem::permissions(tools, std::filesystem::perms::none);
-    if (openToRead(tools)) {  // some may read all files
+    if (disk().openToRead(tools)) {  // some may read all files
       std::filesystem::permissions(tools, std::filesystem::perms::all);
       std::filesystem::resize_file(tools, 0);
     }
@@ -69,6 +69,31 @@ TEST_F(Windows, GoOnWhereFilesCannotBeWritten) {
   play("call mnuCreateWordList_Click\nclose\nstart");
   EXPECT_EQ(rows(), "");
   EXPECT_EQ(messages, "a/1 Could not write the file @/tmpWordList.txt|");
+}
+
+// The clipboard is another program's.
+class ToolkitWithoutClipboard : public Toolkit {
+ public:
+  explicit ToolkitWithoutClipboard(Toolkit& toolkit) : toolkit_(toolkit) {}
+
+  std::unique_ptr<Window> createWindow(const WindowDesign& design) override {
+    return toolkit_.createWindow(design);
+  }
+  std::vector<Window*> Forms() const override { return toolkit_.Forms(); }
+  void MsgBox(TextView prompt) override { toolkit_.MsgBox(prompt); }
+  bool setClipboardText(TextView) override { return false; }
+
+ private:
+  Toolkit& toolkit_;
+};
+
+TEST_F(Windows, SayThatTheClipboardCouldNotBeOpened) {
+  ToolkitWithoutClipboard toolkit(hands->toolkit());
+  Program program(toolkit, swedish(), app);
+  program.start();
+  messages.clear();
+  window().menuItem(u"mnuDoubletList").Click();
+  EXPECT_EQ(messages, "Could not open the clipboard|");
 }
 
 TEST_F(Windows, ScriptsThatMakeNoSenseAreRefused) {

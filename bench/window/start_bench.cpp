@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "common/files.h"
+#include "common/system/files.h"
 #include "painted_window.h"
 #include "sample_glossary.h"
 #include "sample_program.h"
@@ -55,9 +55,7 @@ Path programIn(const Path& folder, const std::string& choice = {}) {
   copyInto(folder, TERMVIK_PROGRAM);
   const Path parameters = folder / "Termvik.par";
   std::filesystem::remove(parameters);
-  if (!choice.empty()) {
-    std::fputs(("GLOSSARYINDEX " + choice + "\r\n").c_str(), openToWrite(parameters).get());
-  }
+  if (!choice.empty()) writeFile(disk(), parameters, "GLOSSARYINDEX " + choice + "\r\n");
   return folder / Path(TERMVIK_PROGRAM).filename();
 }
 

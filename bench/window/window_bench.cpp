@@ -12,11 +12,11 @@
 #include <QListView>
 #include <QPlainTextEdit>
 
+#include "qt_controls.h"
 #include "sample_glossary.h"
 #include "sample_program.h"
 #include "side_by_side.h"
-#include "toolkit/qt/qt_controls.h"
-#include "toolkit/qt/qt_user.h"
+#include "toolkit/qt/qt_hands.h"
 
 namespace termvik::bench {
 
@@ -49,14 +49,14 @@ class Paintings : public QObject {
 class PersonAtWindow {
  public:
   explicit PersonAtWindow(std::int64_t entries)
-      : user_(makeQtUser(swedish())),
+      : hands_(makeQtHands(swedish())),
         app_(appIn(sampleFolder(entries))),
-        program_(user_->toolkit(), swedish(), app_),
+        program_(hands_->toolkit(), swedish(), app_),
         store_(loadedStore(entries)) {
     program_.start();
     for (const auto& control : window().controls()) {
       const ControlDesign& design = control->design();
-      if (design.name == u"optGlossary" && design.index == 2) user_->click(*control);
+      if (design.name == u"optGlossary" && design.index == 2) hands_->click(*control);
     }
     rest();
   }
@@ -69,10 +69,10 @@ class PersonAtWindow {
   Times maximises(std::int32_t& staleArticles);
 
   ListBox& list() const { return window().listBox(u"lstWords"); }
-  TextBox& box() const { return window().textBox(u"txtSearch"); }
+  EditBox& box() const { return window().editBox(u"txtSearch"); }
 
  private:
-  Window& window() const { return *user_->toolkit().Forms().front(); }
+  Window& window() const { return *hands_->toolkit().Forms().front(); }
 
   static App appIn(const std::filesystem::path& folder) {
     App app;
@@ -85,7 +85,7 @@ class PersonAtWindow {
     const int before = paintings_.count;
     for (int seen = before - 1; seen != paintings_.count;) {
       seen = paintings_.count;
-      user_->settle();
+      hands_->settle();
     }
     return paintings_.count > before;
   }
@@ -108,7 +108,7 @@ class PersonAtWindow {
     return article->toPlainText() == expected.remove(u'\r');
   }
 
-  std::unique_ptr<User> user_;
+  std::unique_ptr<Hands> hands_;
   Paintings paintings_;
   App app_;
   Program program_;
@@ -121,14 +121,14 @@ Times PersonAtWindow::types(std::int32_t& staleArticles) {
   for (std::int32_t i = 1; i <= kTypedWords; ++i) {
     const auto row = static_cast<std::int64_t>(list().ListCount()) * i / kTypedWords - 1;
     const Text word(list().List(static_cast<std::int32_t>(row)));
-    user_->replaceText(box(), {});
+    hands_->replaceText(box(), {});
     rest();
     for (const char16_t letter : word) {
-      times.push_back(secondsOf([&] { user_->type(box(), letter); }));
+      times.push_back(secondsOf([&] { hands_->type(box(), letter); }));
       if (!articleIsOfRow()) ++staleArticles;
     }
   }
-  user_->replaceText(box(), {});
+  hands_->replaceText(box(), {});
   return times;
 }
 
@@ -136,7 +136,7 @@ Times PersonAtWindow::holdsPageDown(Control& inControl, std::int32_t& staleArtic
   Times times;
   list().setListIndex(0);
   while (list().ListIndex() < list().ListCount() - 1) {
-    times.push_back(secondsOf([&] { user_->press(inControl, keys::kPageDown); }));
+    times.push_back(secondsOf([&] { hands_->press(inControl, keys::kPageDown); }));
     if (!articleIsOfRow()) ++staleArticles;
   }
   return times;
@@ -149,7 +149,7 @@ Times PersonAtWindow::choosesLanguages(std::int32_t& staleArticles) {
       {{u"mnuEnglish", u"E"}, {u"mnuGerman", u"D"}, {u"mnuFrance", u"F"}, {u"mnuSwedish", u"S"}}};
   for (const auto& [item, language] : kItems) {
     MenuItem& menuItem = window().menuItem(item);
-    times.push_back(secondsOf([&] { user_->choose(window(), menuItem); }));
+    times.push_back(secondsOf([&] { hands_->choose(window(), menuItem); }));
     store_->gWordType = language;
     if (!articleIsOfRow()) ++staleArticles;
   }
@@ -165,12 +165,12 @@ Times PersonAtWindow::maximises(std::int32_t& staleArticles) {
   };
   for (int i = 0; i < kTimesMaximised; ++i) {
     times.push_back(secondsOf([&] {
-      user_->maximise(window());
-      while (!becomes(true)) user_->settle();
+      hands_->maximise(window());
+      while (!becomes(true)) hands_->settle();
     }));
     if (!articleIsOfRow()) ++staleArticles;
-    user_->restore(window());
-    while (!becomes(false)) user_->settle();
+    hands_->restore(window());
+    while (!becomes(false)) hands_->settle();
     rest();
   }
   return times;

@@ -1,17 +1,55 @@
 // The program where Qt carries its window.
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <new>
+
 #include <QApplication>
 
 #include "app/program.h"
+#include "out_of_memory.h"
 #include "toolkit/qt/qt_toolkit.h"
 
+namespace {
+
+// Qt's own work can run out of memory too, where no handler of the program is on the way. No
+// exception may pass through the loop around it.
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override {
+    try {
+      return QApplication::notify(receiver, event);
+    } catch (const std::bad_alloc&) {
+      if (!outOfMemory) throw;
+      outOfMemory();
+      return true;
+    }
+  }
+
+  std::function<void()> outOfMemory;
+};
+
+// Says why and ends. Termvik.par stays as it was, since it is written at closing alone.
+[[noreturn]] void end() {
+  if (!termvik::isOutOfMemory()) std::abort();
+  std::fputs("Termvik does not have enough memory\n", stderr);
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-  const QApplication application(argc, argv);
+  std::set_terminate(end);
+  Application application(argc, argv);
   termvik::QtToolkit::setUpApplication();
-  const termvik::App app{.Path = termvik::programFolder(),
+  const termvik::App app{.Path = termvik::programFolder(termvik::defWords::kFileNames),
                          .decimalSeparator = termvik::userDecimalSeparator()};
   const termvik::Collation collation(termvik::userLocaleName());
   termvik::QtToolkit toolkit(collation);
   termvik::Program program(toolkit, collation, app);
+  application.outOfMemory = [&] { program.form().runOutOfMemory(); };
   program.start();
   return QApplication::exec();
 }

@@ -1,6 +1,6 @@
 #include "dialogs/frm_about.h"
 
-#include "common/numbers.h"
+#include "common/system/numbers.h"
 #include "dialogs/frm_about_design.h"
 
 namespace termvik {

@@ -1,6 +1,6 @@
 #include "dialogs/frm_about_design.h"
 
-#include "common/maker.h"
+#include "common/system/maker.h"
 
 namespace termvik {
 
@@ -58,17 +58,13 @@ WindowDesign frmAboutDesign() {
                .place = {120, 3360, 8415, 735},
                .accessibleName = u"Disclaimer",
                .alignment = Alignment::Centre,
-               .backColour = Colour::ToolTipBackground,
-               .multiLine = true,
-               .locked = true},
+               .backColour = Colour::ToolTipBackground},
               {.kind = TextBox,
                .name = u"Text2",
                .place = {240, 2760, 8175, 495},
                .accessibleName = u"Authors and version",
                .alignment = Alignment::Centre,
                .backColour = Colour::ButtonFace,
-               .multiLine = true,
-               .locked = true,
                .flat = true,
                .tabStop = false},
               {.kind = Label,

@@ -1,81 +1,51 @@
 #include "glossary/cls_w_entry.h"
 
+#include "glossary/entry_lines.h"
+#include "glossary/entry_texts.h"
+
 namespace termvik {
 
 namespace {
 
-// The characters of `text` from column `column` (1-based) on.
-TextView fromColumn(TextView text, std::size_t column) {
-  return column > text.size() ? TextView() : text.substr(column - 1);
-}
+// Puts the words of an entry into the texts, then its comment: the lines of one lie one after the
+// other.
+class Storing {
+ public:
+  explicit Storing(EntryTexts& texts) : texts_(texts) {}
+
+  void word(std::int32_t, TextView text, char16_t wordType) { texts_.addWord(text, wordType); }
+  void comment(std::int32_t, TextView text, bool isHead) {
+    const bool begins = isHead || isEmpty();
+    const char16_t* const begin = begins ? text.data() : comment_.data();
+    comment_ = TextView(begin, static_cast<std::size_t>(text.data() + text.size() - begin));
+    hasSeveralLines_ = !begins;
+  }
+  void passedOver(std::int32_t) {}
+
+  void addComment() { texts_.addComment(comment_); }
+
+ private:
+  // A comment that has several lines is not asked again, since it stays what it is: `C: x` and
+  // 100,000 lines would be a hundred thousand looks at all that stands above.
+  bool isEmpty() const { return !hasSeveralLines_ && texts_.collation().isEmpty(comment_); }
+
+  EntryTexts& texts_;
+  TextView comment_;
+  bool hasSeveralLines_ = false;
+};
 
 }  // namespace
 
 bool clsWEntry::decodeEntry(const LineTable& arr, std::int32_t& nextLine) {
-  Range range{nextLine, nextLine};
-  if (!findRange(arr, range)) return false;
-  store(arr, range);
+  LineRange range{nextLine, nextLine};
+  if (!findEntry(arr, range)) return false;
+  firstText_ = static_cast<std::uint32_t>(texts_->size());
+  Storing storing(*texts_);
+  visitEntry(arr, range, storing);
+  entryWordCount_ = static_cast<std::int32_t>(texts_->size() - firstText_);
+  storing.addComment();
   nextLine = range.last + 1;
   return true;
-}
-
-// Walks from range.first to the end of the entry. Blocks in which nothing counts are stepped over.
-bool clsWEntry::findRange(const LineTable& arr, Range& range) {
-  bool anyCounted = false;
-  bool inComment = false;
-  for (std::int32_t i = range.first; i <= arr.upperBound(); ++i) {
-    const LineKind kind = arr.kind(i);
-    if (kind == LineKind::Separator) {
-      if (anyCounted) {
-        range.last = i;
-        return true;
-      }
-      range.first = i + 1;
-      inComment = false;  // else the comment of a wordless block would swallow the rest of the file
-      continue;
-    }
-    range.last = i;
-    if (kind == LineKind::CommentHead) {
-      inComment = true;
-    } else if (!inComment && kind != LineKind::Empty) {
-      anyCounted = true;
-    }
-  }
-  return anyCounted;
-}
-
-void clsWEntry::store(const LineTable& arr, const Range& range) {
-  firstText_ = static_cast<std::uint32_t>(texts_->size());
-  bool inComment = false;
-  TextView comment;
-  Text joined;  // the lines of a comment that has several
-  char16_t wordType = u'\0';
-  bool hasWordType = false;
-  for (std::int32_t i = range.first; i <= range.last; ++i) {
-    const TextView line = arr[i];
-    const LineKind kind = arr.kind(i);
-    if (kind == LineKind::Separator) continue;
-    if (kind == LineKind::CommentHead) {
-      inComment = true;
-      joined.clear();
-      comment = trim(fromColumn(line, 3));
-    } else if (inComment) {
-      if (collation().isEmpty(comment)) {
-        comment = line;
-      } else {
-        if (joined.empty()) joined = comment;
-        comment = joined.append(kLineEnd).append(line);
-      }
-    } else if (kind == LineKind::Word) {
-      wordType = line.front();
-      hasWordType = true;
-      texts_->addWord(fromColumn(line, 4), wordType);
-    } else if (hasWordType && kind != LineKind::Empty) {
-      texts_->addWord(line, wordType);
-    }
-  }
-  entryWordCount_ = static_cast<std::int32_t>(texts_->size() - firstText_);
-  texts_->addComment(joined.empty() ? comment : texts_->keep(joined));
 }
 
 TextView clsWEntry::entryWord(std::int32_t index) const {
@@ -86,9 +56,9 @@ TextView clsWEntry::entryType(std::int32_t index) const {
   return texts_->type(firstText_ + static_cast<std::size_t>(index) - 1);
 }
 
-TextView clsWEntry::entryComment() const {
-  return texts_->text(firstText_ + static_cast<std::size_t>(entryWordCount_));
-}
+TextView clsWEntry::entryComment() const { return texts_->text(commentText()); }
+
+const Collation& clsWEntry::collation() const { return texts_->collation(); }
 
 bool clsWEntry::isOfType(std::int32_t index, TextView aWordType) const {
   return collation().equal(entryType(index), aWordType);
@@ -109,7 +79,8 @@ bool clsWEntry::getGlossaryWord(TextView aWordType, bool& getFirst, TextView& wo
   return false;
 }
 
-TextView clsWEntry::wordForCommentHit(TextView aWordType) const {
+TextView clsWEntry::wordForHit(std::size_t hit, TextView aWordType) const {
+  if (hit != commentText()) return texts_->text(hit);
   for (std::int32_t i = 1; i <= entryWordCount_; ++i) {
     if (isOfType(i, aWordType)) return entryWord(i);
   }

@@ -1,41 +1,55 @@
 #include "glossary/def_words.h"
 
-#include <algorithm>
 #include <utility>
 
-#include "common/files.h"
+#include "common/system/line_reader.h"
+#include "glossary/entry_texts.h"
+#include "glossary/line_table.h"
 
 namespace termvik {
 
-namespace {
+// One glossary's file: its lines as read and the texts of its entries.
+struct defWords::Glossary {
+  explicit Glossary(const Collation& collation) : lines(collation), texts(collation, lines) {}
 
-// The lines of a glossary address their characters with 32 bits.
-constexpr std::size_t kMostCharacters = PackedTexts<char16_t>::kMostCharacters;
+  void clear() {
+    texts.clear();
+    lines.clear();
+  }
 
-}  // namespace
+  LineTable lines;
+  EntryTexts texts;
+};
 
 defWords::defWords(const Collation& collation, std::filesystem::path folder,
-                   std::function<void(TextView)> showMessage)
+                   std::function<void(TextView)> showMessage, const Files& files)
     : collation_(&collation),
       folder_(std::move(folder)),
       showMessage_(std::move(showMessage)),
-      graph_(collation),
-      tools_(collation) {}
+      files_(&files),
+      graph_(std::make_unique<Glossary>(collation)),
+      tools_(std::make_unique<Glossary>(collation)) {}
+
+defWords::~defWords() = default;
 
 void defWords::readGlossaries() {
   gGraphFirst = 1;
-  readGlossary(u"Graphical glossary:", u"graphword.txt", graph_, gGraphFirst, gGraphLast,
+  readGlossary(u"Graphical glossary:", kFileNames[0], *graph_, gGraphFirst, gGraphLast,
                gGraphVersion);
   gToolsFirst = gGraphLast + 1;
-  readGlossary(u"Tools glossary:", u"toolsword.txt", tools_, gToolsFirst, gToolsLast,
-               gToolsVersion);
+  readGlossary(u"Tools glossary:", kFileNames[1], *tools_, gToolsFirst, gToolsLast, gToolsVersion);
 }
 
 void defWords::clearGlossaries() {
-  entries_ = {};
-  graph_ = Glossary(*collation_);
-  tools_ = Glossary(*collation_);
+  entries_ = LargeVector<clsWEntry>();
+  graph_->clear();
+  tools_->clear();
   gGraphFirst = gGraphLast = gToolsFirst = gToolsLast = 0;
+}
+
+void defWords::emptyGlossaries() {
+  clearGlossaries();
+  gGraphFirst = gToolsFirst = 1;
 }
 
 void defWords::readGlossary(TextView title, TextView fileName, Glossary& glossary,
@@ -57,13 +71,13 @@ bool defWords::readGlossaryFile(const std::filesystem::path& fileName, LineTable
     return false;
   }
   FileMeasure measure;
-  if (!measureFile(fileName, measure) || measure.bytes > kMostCharacters) return false;
+  if (!measureFile(*files_, fileName, measure)) return false;
   lines.reserve(measure.lines, measure.bytes);
-  LineReader reader(fileName);
+  LineReader reader(*files_, fileName);
   std::string_view bytes;
   bool grown = false;
   while (reader.next(bytes)) {
-    grown = lines.size() == measure.lines || lines.characterCount() + bytes.size() > measure.bytes;
+    grown = lines.size() == measure.lines;
     if (grown) break;
     lines.append(bytes);
   }
@@ -98,31 +112,6 @@ void defWords::decodeGlossary(Glossary& glossary, std::int32_t firstIndex,
     ++lastIndex;
     gEntries(lastIndex) = entry;
   }
-}
-
-// Goes from one text to the next in widening steps: to ask each entry on the way would take as long
-// as the search itself (bench/full_search).
-std::int32_t defWords::nextCandidate(SearchRun& search, std::int32_t from,
-                                     std::int32_t last) const {
-  auto entry = entries_.begin() + from - 1;
-  const auto end = entries_.begin() + last;
-  if (entry >= end) return from;
-  const std::size_t text = entry->nextCandidate(search);
-  const auto liesBefore = [text](const clsWEntry& other) { return other.liesBefore(text); };
-  std::ptrdiff_t step = 1;
-  while (end - entry > step && liesBefore(entry[step])) {
-    entry += step;
-    step *= 2;
-  }
-  entry = std::partition_point(entry, entry + std::min(step + 1, end - entry), liesBefore);
-  return static_cast<std::int32_t>(entry - entries_.begin()) + 1;
-}
-
-LetterCounts defWords::letterCounts() const {
-  LetterCounts counts = graph_.texts.letterCounts();
-  const LetterCounts& more = tools_.texts.letterCounts();
-  for (std::size_t i = 0; i < counts.size(); ++i) counts[i] += more[i];
-  return counts;
 }
 
 }  // namespace termvik

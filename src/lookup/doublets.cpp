@@ -8,6 +8,10 @@ namespace {
 
 constexpr TextView kRowMark = u" ------DUBBLETT-";
 constexpr TextView kReportRule = u"=======================================";
+constexpr TextView kReportIsThere =
+    u"Dubbletterna finns nu på klippbordet! \r\n"
+    u"Gör ctrl-V i Word för att kopiera dem till ett dokument!";
+constexpr TextView kNoClipboard = u"Could not open the clipboard";
 
 }  // namespace
 
@@ -31,10 +35,8 @@ void frmGlossary::copyDoubletsToClipboard() {
     }
     report.append(kLineEnd).append(kReportRule).append(kLineEnd).append(kLineEnd);
   }
-  toolkit_.setClipboardText(report);
-  toolkit_.MsgBox(
-      u"Dubbletterna finns nu på klippbordet! \r\n"
-      u"Gör ctrl-V i Word för att kopiera dem till ett dokument!");
+  const bool isThere = toolkit_.setClipboardText(report);
+  toolkit_.MsgBox(isThere ? kReportIsThere : kNoClipboard);
 }
 
 }  // namespace termvik

@@ -1,11 +1,19 @@
 #include "lookup/frm_glossary.h"
 
-#include "common/mathlib.h"
-#include "common/numbers.h"
+#include <new>
+
+#include "common/system/mathlib.h"
+#include "common/system/numbers.h"
 #include "dialogs/frm_about.h"
 #include "lookup/frm_glossary_design.h"
 
 namespace termvik {
+
+namespace {
+
+constexpr TextView kNotEnoughMemory = u"Termvik does not have enough memory for these glossaries";
+
+}  // namespace
 
 frmGlossary::frmGlossary(const Surroundings& surroundings)
     : toolkit_(surroundings.toolkit),
@@ -13,7 +21,7 @@ frmGlossary::frmGlossary(const Surroundings& surroundings)
       words_(surroundings.words),
       settings_(surroundings.settings),
       window_(toolkit_.createWindow(frmGlossaryDesign())),
-      txtSearch_(window_->textBox(u"txtSearch")),
+      txtSearch_(window_->editBox(u"txtSearch")),
       lstWords_(window_->listBox(u"lstWords")),
       txtArticle_(window_->textBox(u"txtArticle")),
       optGlossary_(window_->optionGroup(u"optGlossary")),
@@ -25,36 +33,71 @@ frmGlossary::frmGlossary(const Surroundings& surroundings)
   connectEvents();
 }
 
+// Calls a handler of the outermost event. A handler that it leads to leaves the care to it, as it
+// may still be at work on what would be let go.
+template <class Act>
+void frmGlossary::guard(Act act) {
+  if (guarded_) {
+    act();
+    return;
+  }
+  guarded_ = true;
+  try {
+    act();
+    guarded_ = false;
+  } catch (const std::bad_alloc&) {
+    runOutOfMemory();
+  }
+}
+
+template <class... Arguments>
+auto frmGlossary::handler(void (frmGlossary::*handle)(Arguments...)) {
+  return [this, handle](Arguments... arguments) { guard([&] { (this->*handle)(arguments...); }); };
+}
+
 void frmGlossary::connectEvents() {
-  window_->Resize = [this] { Form_Resize(); };
-  window_->QueryUnload = [this] { Form_QueryUnload(); };
-  lstWords_.Click = [this] { lstWords_Click(); };
-  optGlossary_.Click = [this](std::int16_t) { optGlossary_Click(); };
-  txtSearch_.Change = [this] { txtSearch_Change(); };
-  txtSearch_.Click = [this] { txtSearch_Click(); };
-  txtSearch_.KeyDown = [this](std::int16_t& keyCode) { txtSearch_KeyDown(keyCode); };
-  txtSearch_.KeyPress = [this](std::int16_t& character) { txtSearch_KeyPress(character); };
-  cmdSearchAgain_.Click = [this] { cmdSearchAgain_Click(); };
-  optSearch_.Click = [this](std::int16_t Index) { optSearch_Click(Index); };
-  chkShowDoublet_.Click = [this] { chkShowDoublet_Click(); };
-  window_->menuItem(u"mnuEnglish").Click = [this] { mnuEnglish_Click(); };
-  window_->menuItem(u"mnuSwedish").Click = [this] { mnuSwedish_Click(); };
-  window_->menuItem(u"mnuGerman").Click = [this] { mnuGerman_Click(); };
-  window_->menuItem(u"mnuFrance").Click = [this] { mnuFrance_Click(); };
-  window_->menuItem(u"mnuAbout").Click = [this] { mnuAbout_Click(); };
-  window_->menuItem(u"mnuReRead").Click = [this] { mnuReRead_Click(); };
-  window_->menuItem(u"mnuShowGlossVersions").Click = [this] { mnuShowGlossVersions_Click(); };
-  window_->menuItem(u"mnuCreateWordList").Click = [this] { mnuCreateWordList_Click(); };
-  window_->menuItem(u"mnuDoubletList").Click = [this] { mnuDoubletList_Click(); };
+  window_->Resize = handler(&frmGlossary::Form_Resize);
+  window_->QueryUnload = handler(&frmGlossary::Form_QueryUnload);
+  lstWords_.Click = handler(&frmGlossary::lstWords_Click);
+  optGlossary_.Click = handler(&frmGlossary::optGlossary_Click);
+  txtSearch_.Change = handler(&frmGlossary::txtSearch_Change);
+  txtSearch_.Click = handler(&frmGlossary::txtSearch_Click);
+  txtSearch_.KeyDown = handler(&frmGlossary::txtSearch_KeyDown);
+  txtSearch_.KeyPress = handler(&frmGlossary::txtSearch_KeyPress);
+  cmdSearchAgain_.Click = handler(&frmGlossary::cmdSearchAgain_Click);
+  optSearch_.Click = handler(&frmGlossary::optSearch_Click);
+  chkShowDoublet_.Click = handler(&frmGlossary::chkShowDoublet_Click);
+  window_->menuItem(u"mnuEnglish").Click = handler(&frmGlossary::mnuEnglish_Click);
+  window_->menuItem(u"mnuSwedish").Click = handler(&frmGlossary::mnuSwedish_Click);
+  window_->menuItem(u"mnuGerman").Click = handler(&frmGlossary::mnuGerman_Click);
+  window_->menuItem(u"mnuFrance").Click = handler(&frmGlossary::mnuFrance_Click);
+  window_->menuItem(u"mnuAbout").Click = handler(&frmGlossary::mnuAbout_Click);
+  window_->menuItem(u"mnuReRead").Click = handler(&frmGlossary::mnuReRead_Click);
+  window_->menuItem(u"mnuShowGlossVersions").Click =
+      handler(&frmGlossary::mnuShowGlossVersions_Click);
+  window_->menuItem(u"mnuCreateWordList").Click = handler(&frmGlossary::mnuCreateWordList_Click);
+  window_->menuItem(u"mnuDoubletList").Click = handler(&frmGlossary::mnuDoubletList_Click);
 }
 
 void frmGlossary::Form_Load() {
-  restoreSettings();
-  words_.gWordType = u"S";
-  words_.readGlossaries();
-  fillWordList();
-  moveInList(0, 0);
+  guard([this] {
+    restoreSettings();
+    words_.gWordType = u"S";
+    words_.readGlossaries();
+    fillWordList();
+    moveInList(0, 0);
+  });
   formLoaded_ = true;
+}
+
+// The glossaries go first: they are what the rest has too little room for.
+void frmGlossary::runOutOfMemory() {
+  words_.emptyGlossaries();
+  lstWords_.Clear();
+  txtArticle_.setText({});
+  listBusy_ = searchOptionLocked_ = guarded_ = false;
+  cmdSearchAgain_.setEnabled(optSearch_.Value(1));
+  toolkit_.MsgBox(kNotEnoughMemory);
 }
 
 void frmGlossary::restoreSettings() {

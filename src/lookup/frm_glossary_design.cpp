@@ -1,6 +1,6 @@
 #include "lookup/frm_glossary_design.h"
 
-#include "common/maker.h"
+#include "common/system/maker.h"
 
 namespace termvik {
 
@@ -13,7 +13,7 @@ constexpr FontDesign kAddressFont{
 std::vector<ControlDesign> controls() {
   using enum ControlKind;
   return {
-      {.kind = TextBox,
+      {.kind = EditBox,
        .name = u"txtSearch",
        .place = {240, 1200, 3015, 285},
        .accessibleName = u"Search",
@@ -28,9 +28,7 @@ std::vector<ControlDesign> controls() {
        .place = {3600, 2280, 5535, 3015},
        .accessibleName = u"Article",
        .font = kReadingFont,
-       .multiLine = true,
-       .scrolls = true,
-       .locked = true},
+       .scrolls = true},
       {.kind = OptionButton,
        .name = u"optGlossary",
        .index = 0,

@@ -1,8 +1,8 @@
 // Full search: replaces the list by one row for each entry of the chosen glossaries that holds at
 // least one of up to ten terms, in a word of any language or in its comment.
-#include <utility>
+#include "glossary/full_search.h"
 
-#include "common/mathlib.h"
+#include "common/system/mathlib.h"
 #include "lookup/frm_glossary.h"
 
 namespace termvik {
@@ -41,28 +41,14 @@ void frmGlossary::cmdSearchAgain_Click() {
   const Text searchText = txtSearch_.text();
   const std::vector<TextView> words = splitSearchWords(words_.collation(), searchText);
   if (words.empty()) return;
-  const LetterCounts counts = words_.letterCounts();
-  std::vector<SearchTerm> terms;
-  terms.reserve(words.size());
-  for (const TextView word : words) terms.emplace_back(words_.collation(), word, counts);
-  SearchRun search(std::move(terms));
   lstWords_.Clear();
   txtArticle_.setText({});
   visitChosenGlossaries([&](std::int32_t first, std::int32_t last) {
-    for (std::int32_t i = words_.nextCandidate(search, first, last); i <= last;
-         i = words_.nextCandidate(search, i + 1, last)) {
-      addEntryIfSearched(i, search);
-    }
+    visitHits(words_, first, last, words,
+              [this](std::int32_t entry, TextView word) { lstWords_.AddItem(word, entry); });
   });
+  leaveRoom();
   moveInList(0, 0);
-}
-
-void frmGlossary::addEntryIfSearched(std::int32_t entryIndex, SearchRun& search) {
-  TextView key;
-  const clsWEntry& entry = words_.gEntries(entryIndex);
-  if (!entry.getGlossaryWordIfSearchedFor(words_.gWordType, search, key)) return;
-  lstWords_.AddItem(key);
-  lstWords_.setItemData(lstWords_.NewIndex(), entryIndex);
 }
 
 }  // namespace termvik

@@ -1,7 +1,6 @@
 // The search box as the keyboard front of the list: each change of its text selects the row that
 // fits best, and the arrow and page keys move the selection.
-#include <algorithm>
-
+#include "look_up.h"
 #include "lookup/frm_glossary.h"
 
 namespace termvik {
@@ -10,32 +9,12 @@ namespace {
 
 constexpr std::int32_t kPageRows = 15;  // whatever the height of the list
 
-// How many characters `a` and `b` have in common at their beginning.
-std::size_t commonLength(TextView a, TextView b) {
-  const auto parted = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
-  return static_cast<std::size_t>(parted.first - a.begin());
-}
-
 }  // namespace
 
-// Goes through the leading parts of the search text from the shortest on, each from the row where
-// the one before ended. `top` becomes the first row that begins with the longest part that any row
-// begins with, and `bottom` the end of the run of rows that begin with the whole text.
 void frmGlossary::txtSearch_Change() {
   if (lstWords_.ListCount() == 0 || listBusy_) return;
-  const Text searchText = txtSearch_.text();
-  const SortedRows& rows = lstWords_.rows();
-  std::int32_t top = 0;
-  std::int32_t bottom = 0;
-  for (std::size_t p = 1; p <= searchText.size(); ++p) {
-    const SortedRows::Walk scan = rows.findPrefix(TextView(searchText).substr(0, p), top);
-    if (!scan.fits) break;  // a row past the text, or the end of the list: longer parts fit no row
-    top = scan.row;
-    // The same characters fit at once: a long text costs one comparison, not one a character.
-    p = std::max(p, commonLength(rows.text(top), searchText));
-    if (p == searchText.size()) bottom = rows.endOfRun(searchText, top);
-  }
-  moveInList(top, bottom);
+  const FoundRows found = lookUp(lstWords_.rows(), txtSearch_.text());
+  moveInList(found.top, found.bottom);
 }
 
 void frmGlossary::txtSearch_Click() {

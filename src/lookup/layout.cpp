@@ -1,7 +1,7 @@
 // How the main window's controls follow its size.
 #include <cmath>
 
-#include "common/mathlib.h"
+#include "common/system/mathlib.h"
 #include "lookup/frm_glossary.h"
 
 namespace termvik {

@@ -1,6 +1,9 @@
 // The word list and the article: fills the list from the chosen glossaries, moves the selection and
 // shows the selected row's entry.
-#include "common/mathlib.h"
+#include <algorithm>
+#include <new>
+
+#include "common/system/mathlib.h"
 #include "lookup/frm_glossary.h"
 
 namespace termvik {
@@ -22,14 +25,23 @@ void frmGlossary::fillWordList() {
     for (std::int32_t i = first; i <= last; ++i) addEntryWords(i);
   });
   if (chkShowDoublet_.Value() == 1) markDoublets();
+  leaveRoom();
+}
+
+// Finds out in time whether the window system will have memory for the list: it cannot be told that
+// there is none, and ends the program.
+void frmGlossary::leaveRoom() const {
+  constexpr std::size_t kOfRow = 256;
+  constexpr std::size_t kEnough = 64U << 20U;
+  const auto rows = static_cast<std::size_t>(lstWords_.ListCount());
+  ::operator delete(::operator new(std::min(rows * kOfRow, kEnough)));
 }
 
 void frmGlossary::addEntryWords(std::int32_t entryIndex) {
   bool getFirst = true;
   TextView word;
   while (words_.gEntries(entryIndex).getGlossaryWord(words_.gWordType, getFirst, word)) {
-    lstWords_.AddItem(word);
-    lstWords_.setItemData(lstWords_.NewIndex(), entryIndex);
+    lstWords_.AddItem(word, entryIndex);
   }
 }
 
@@ -68,7 +80,7 @@ void frmGlossary::placeSelection() {
   }
 }
 
-void frmGlossary::optGlossary_Click() {
+void frmGlossary::optGlossary_Click(std::int16_t) {
   if (!formLoaded_) return;
   if (optSearch_.Value(0)) {
     fillWordList();

@@ -1,6 +1,6 @@
 // Writes the entries behind the rows of the list as a glossary file of their own.
-#include "common/codepage.h"
-#include "common/files.h"
+#include "common/system/codepage.h"
+#include "common/system/files.h"
 #include "lookup/frm_glossary.h"
 
 namespace termvik {
@@ -8,32 +8,25 @@ namespace termvik {
 namespace {
 
 constexpr TextView kWrittenTypes = u"SED";
-
-bool write(const File& file, TextView text) {
-  const std::string bytes = encodeAnsi(text);
-  return std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-}
+constexpr std::string_view kSeparatorLine = "---\r\n";
 
 }  // namespace
 
 void frmGlossary::mnuCreateWordList_Click() {
   const std::filesystem::path path = fileIn(app_.Path, u"tmpWordList.txt");
-  const bool written = writeWordList(path);
+  const bool written = writeFile(*app_.files, path, wordListBytes());
   toolkit_.MsgBox(Text(written ? u"Ny ordlista i filen " : u"Could not write the file ")
                       .append(pathText(path)));
 }
 
-bool frmGlossary::writeWordList(const std::filesystem::path& path) {
-  File file = openToWrite(path);
-  if (!file) return false;
-  bool written = true;
-  for (std::int32_t row = 0; row < lstWords_.ListCount() && written; ++row) {
+std::string frmGlossary::wordListBytes() const {
+  std::string bytes;
+  for (std::int32_t row = 0; row < lstWords_.ListCount(); ++row) {
     const clsWEntry& entry = words_.gEntries(lstWords_.ItemData(row));
     const Text block = entry.articleForFile(kWrittenTypes, lstWords_.List(row));
-    if (words_.collation().isEmpty(block)) continue;
-    written = write(file, block) && write(file, u"---\r\n");
+    if (!words_.collation().isEmpty(block)) bytes.append(encodeAnsi(block)).append(kSeparatorLine);
   }
-  return std::fclose(file.release()) == 0 && written;
+  return bytes;
 }
 
 }  // namespace termvik

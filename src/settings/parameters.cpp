@@ -3,14 +3,18 @@
 
 #include <algorithm>
 
-#include "common/codepage.h"
-#include "common/files.h"
-#include "common/mathlib.h"
-#include "settings/upper_case.h"
+#include "common/system/codepage.h"
+#include "common/system/files.h"
+#include "common/system/line_reader.h"
+#include "common/system/mathlib.h"
+#include "upper_case.h"
 
 namespace termvik {
 
 namespace {
+
+// No more of the file is read: what the program writes has a few hundred bytes.
+constexpr std::size_t kMostOfFile = 1U << 16U;
 
 bool isSlot(std::int32_t index) { return index >= 1 && index <= parameters::paramCount; }
 
@@ -26,7 +30,7 @@ void parameters::setupPNames() {
 
 bool parameters::readParameters() {
   if (!fileExists(paramFilePath_)) return false;
-  LineReader reader(paramFilePath_);
+  LineReader reader(*app_.files, paramFilePath_, kMostOfFile);
   std::string_view bytes;
   while (reader.next(bytes)) readLine(trim(decodeAnsi(bytes)));
   return true;
@@ -43,15 +47,11 @@ void parameters::readLine(TextView line) {
 }
 
 bool parameters::writeParameters() const {
-  File file = openToWrite(paramFilePath_);
-  if (!file) return false;
   Text lines;
   for (std::size_t i = 0; i < paramNames_.size(); ++i) {
     lines.append(paramNames_[i]).append(u" ").append(paramValues_[i]).append(kLineEnd);
   }
-  const std::string bytes = encodeAnsi(lines);
-  const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-  return std::fclose(file.release()) == 0 && written;
+  return writeFile(*app_.files, paramFilePath_, encodeAnsi(lines));
 }
 
 Text parameters::getParam(std::int32_t index) const {

@@ -1,7 +1,7 @@
 // Upper case for the names of parameters and windows, which are plain ASCII.
 #pragma once
 
-#include "common/text.h"
+#include "common/system/text.h"
 
 namespace termvik {
 

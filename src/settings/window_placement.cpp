@@ -1,9 +1,9 @@
 // Where a window stood: into the slots at closing, out of them at start.
 #include <optional>
 
-#include "common/numbers.h"
+#include "common/system/numbers.h"
 #include "settings/parameters.h"
-#include "settings/upper_case.h"
+#include "upper_case.h"
 
 namespace termvik {
 

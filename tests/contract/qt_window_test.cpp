@@ -1,5 +1,5 @@
 // What a person finds in the real main window beyond what the program asks of a toolkit.
-#include "toolkit/qt/qt_window.h"
+#include "qt_window.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -10,8 +10,8 @@
 #include <gtest/gtest.h>
 
 #include "lookup/frm_glossary_design.h"
-#include "toolkit/qt/qt_controls.h"
-#include "toolkit/qt/qt_user.h"
+#include "qt_controls.h"
+#include "toolkit/qt/qt_hands.h"
 
 namespace termvik {
 namespace {
@@ -26,14 +26,14 @@ class QtMainWindow : public testing::Test {
   QMainWindow& widget() const { return dynamic_cast<QtWindow&>(*window).widget(); }
 
   const Collation collation{"sv_SE"};
-  const std::unique_ptr<User> user = makeQtUser(collation);
-  const std::unique_ptr<Window> window = user->toolkit().createWindow(frmGlossaryDesign());
+  const std::unique_ptr<Hands> hands = makeQtHands(collation);
+  const std::unique_ptr<Window> window = hands->toolkit().createWindow(frmGlossaryDesign());
 };
 
 TEST_F(QtMainWindow, TabGoesThroughTheControlsInTheirOrder) {
   window->optionGroup(u"optGlossary").setValue(2, true);  // of a group Tab visits what is on
   window->commandButton(u"cmdSearchAgain").setEnabled(true);
-  qtWidget(window->textBox(u"txtSearch"))->setFocus();
+  qtWidget(window->editBox(u"txtSearch"))->setFocus();
   QStringList visited;
   for (int i = 0; i < 7; ++i) {
     visited << QApplication::focusWidget()->objectName();
@@ -63,7 +63,7 @@ TEST_F(QtMainWindow, TheMenuBarShowsAllNineItemsAndTheListItsRows) {
     EXPECT_TRUE(bar.rect().contains(bar.actionGeometry(action))) << qPrintable(action->text());
   }
   ListBox& list = window->listBox(u"lstWords");
-  for (const TextView word : {u"sax", u"kil"}) list.AddItem(word);
+  for (const TextView word : {u"sax", u"kil"}) list.AddItem(word, 1);
   list.setListIndex(1);
   QAccessibleInterface* face = QAccessible::queryAccessibleInterface(qtWidget(list));
   ASSERT_EQ(face->childCount(), 2);

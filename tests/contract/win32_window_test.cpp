@@ -1,57 +1,12 @@
-// What a person finds in the real main window beyond what the program asks of a toolkit.
-#include "toolkit/win32/win32_window.h"
+// What a person does in the real main window beyond what the program asks of a toolkit.
+#include <array>
+#include <future>
+#include <thread>
 
-#include <gtest/gtest.h>
-
-#include "dialogs/frm_about_design.h"
-#include "lookup/frm_glossary_design.h"
-#include "toolkit/win32/win32_user.h"
-
-// Behind the headers that it needs.
-#include <commctrl.h>
+#include "win32_main_window.h"
 
 namespace termvik {
 namespace {
-
-class Win32MainWindow : public testing::Test {
- protected:
-  Win32MainWindow() {
-    window->Show();
-    user->settle();
-  }
-
-  HWND shown(TextView name) const { return win32Shown(window->control(name)).shown(); }
-  HWND hwnd() const { return dynamic_cast<Win32Window&>(*window).hwnd(); }
-
-  std::string focused() const {
-    for (const auto& control : window->controls()) {
-      if (win32Shown(*control).shown() != GetFocus()) continue;
-      const std::int32_t index = control->design().index;
-      const std::string name = toUtf8(control->design().name);
-      return index < 0 ? name : name + std::to_string(index);
-    }
-    return "none";
-  }
-
-  // Presses a key wherever the focus is.
-  void press(int key) const {
-    PostMessageW(GetFocus(), WM_KEYDOWN, static_cast<WPARAM>(key), 1);
-    user->settle();
-  }
-
-  Text copied(HWND box) const {
-    Text text;
-    user->seesClipboard = [&](TextView seen) { text = seen; };
-    SendMessageW(box, WM_CHAR, 1, 1);  // Ctrl+A
-    SendMessageW(box, WM_CHAR, 3, 1);  // Ctrl+C
-    return text;
-  }
-
-  const Collation collation{"sv_SE"};
-  const std::unique_ptr<User> user = makeWin32User(collation);
-  const std::unique_ptr<Window> window = user->toolkit().createWindow(frmGlossaryDesign());
-  ListBox& list = window->listBox(u"lstWords");
-};
 
 TEST_F(Win32MainWindow, TabGoesThroughTheControlsAndArrowsThroughAGroup) {
   window->commandButton(u"cmdSearchAgain").setEnabled(true);
@@ -64,49 +19,107 @@ TEST_F(Win32MainWindow, TabGoesThroughTheControlsAndArrowsThroughAGroup) {
             "txtSearch lstWords txtArticle optGlossary0 optSearch0 cmdSearchAgain chkShowDoublet "
             "txtSearch ");
   EXPECT_FALSE(window->optionGroup(u"optGlossary").Value(0)) << "the focus alone chooses nothing";
-  SetFocus(shown(u"optGlossary"));
+  SetFocus(handleOf(u"optGlossary"));
   for (const int key : {VK_DOWN, VK_DOWN, VK_DOWN, VK_UP}) press(key);
   EXPECT_EQ(focused(), "optGlossary2");
   EXPECT_TRUE(window->optionGroup(u"optGlossary").Value(2));
   press(VK_TAB);
   EXPECT_EQ(focused(), "optSearch0");
+  press(VK_TAB);
+  EXPECT_EQ(focused(), "cmdSearchAgain");
+  window->commandButton(u"cmdSearchAgain").setEnabled(false);
+  EXPECT_EQ(focused(), "chkShowDoublet") << "a button that is off can do nothing with a key";
 }
 
 TEST_F(Win32MainWindow, TheFocusComesBackWithTheWindow) {
-  SetFocus(shown(u"txtArticle"));
+  SetFocus(handleOf(u"txtArticle"));
   int left = 0;
   window->Deactivate = [&] { ++left; };
-  user->toolkit().MsgBox(u"prompt");
-  user->settle();
+  hands->toolkit().MsgBox(u"prompt");
+  hands->settle();
   EXPECT_EQ(left, 1);
   EXPECT_EQ(focused(), "txtArticle");
 }
 
 TEST_F(Win32MainWindow, ACharacterThatNoBoxShowsCutsNothingShort) {
-  user->replaceText(window->textBox(u"txtSearch"), u"kil");
-  SendMessageW(shown(u"txtSearch"), WM_CHAR, 1, 1);
-  EXPECT_EQ(window->textBox(u"txtSearch").SelLength(), 3) << "Ctrl+A";
+  hands->replaceText(window->editBox(u"txtSearch"), u"kil");
+  SendMessageW(handleOf(u"txtSearch"), WM_CHAR, 1, 1);
+  EXPECT_EQ(window->editBox(u"txtSearch").SelLength(), 3) << "Ctrl+A";
   TextBox& article = window->textBox(u"txtArticle");
   const Text word = Text(10'001, u'x') + u"\xD83D\xDE00";
   article.setText(word + u"\r\n" + word + u"\rS: kil\n" + Text(1, u'\0') + u"wedge");
-  EXPECT_GT(SendMessageW(shown(u"txtArticle"), EM_GETLINECOUNT, 0, 0), 6);
-  EXPECT_EQ(copied(shown(u"txtArticle")), word + u"\r\n" + word + u"\rS: kil\n wedge");
-  SendMessageW(shown(u"txtArticle"), WM_CHAR, u'x', 1);
-  EXPECT_EQ(copied(shown(u"txtArticle")).size(), article.text().size()) << "read only";
+  EXPECT_GT(SendMessageW(handleOf(u"txtArticle"), EM_GETLINECOUNT, 0, 0), 6);
+  EXPECT_EQ(copied(handleOf(u"txtArticle")), word + u"\r\n" + word + u"\rS: kil\n wedge");
+  SendMessageW(handleOf(u"txtArticle"), WM_CHAR, u'x', 1);
+  EXPECT_EQ(copied(handleOf(u"txtArticle")).size(), article.text().size()) << "read only";
+}
+
+TEST_F(Win32MainWindow, CtrlBackspaceDeletesAWord) {
+  struct Case {
+    TextView text;
+    int start;
+    int end;
+    TextView left;
+  };
+  EditBox& box = window->editBox(u"txtSearch");
+  int changes = 0;
+  box.Change = [&] { ++changes; };
+  std::array<BYTE, 256> held{};
+  held[VK_CONTROL] = 0x80;
+  SetKeyboardState(held.data());
+  for (const Case& c :
+       {Case{u"två  ord  ", 10, 10, u"två  "}, Case{u"två ord", 6, 6, u"två d"},
+        Case{u"ord", 3, 3, u""}, Case{u"två ord", 2, 5, u"tvrd"}, Case{u"  ord", 2, 2, u"ord"}}) {
+    hands->replaceText(box, c.text);
+    SendMessageW(handleOf(u"txtSearch"), EM_SETSEL, static_cast<WPARAM>(c.start), c.end);
+    changes = 0;
+    press(VK_BACK);
+    EXPECT_EQ(box.text(), c.left);
+    EXPECT_EQ(changes, 1);
+  }
+  hands->goToEnd(box);
+  box.setSelStart(0);
+  changes = 0;
+  press(VK_BACK);
+  EXPECT_EQ(changes, 0) << "before the first word is none";
+  held[VK_CONTROL] = 0;
+  SetKeyboardState(held.data());
+}
+
+TEST_F(Win32MainWindow, AReleaseWithoutItsPressIsNoClick) {
+  int clicks = 0;
+  EditBox& box = window->editBox(u"txtSearch");
+  box.Click = [&] { ++clicks; };
+  SendMessageW(handleOf(u"txtSearch"), WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
+  EXPECT_EQ(clicks, 0);
+  hands->click(box);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Win32MainWindow, ItWaitsForAClipboardThatAnotherProgramHolds) {
+  std::promise<bool> held;
+  std::thread other([&held] {
+    held.set_value(OpenClipboard(nullptr) != 0);
+    Sleep(1000);
+    CloseClipboard();
+  });
+  EXPECT_TRUE(held.get_future().get());
+  EXPECT_TRUE(hands->toolkit().setClipboardText(u"text"));
+  other.join();
 }
 
 TEST_F(Win32MainWindow, HundredsOfThousandsOfRowsCostTheListNoMessage) {
   static int messages;
   static HWND view;
   messages = 0;
-  view = shown(u"lstWords");
+  view = handleOf(u"lstWords");
   const auto count = [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
     // NOLINTNEXTLINE(performance-no-int-to-ptr): Windows gives it so
     if (reinterpret_cast<const CWPSTRUCT*>(lParam)->hwnd == view) ++messages;
     return CallNextHookEx(nullptr, code, wParam, lParam);
   };
   HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, count, nullptr, GetCurrentThreadId());
-  for (int i = 0; i < 300'000; ++i) list.AddItem(fromUtf8("ord " + std::to_string(i % 90'000)));
+  for (int i = 0; i < 300'000; ++i) list.AddItem(fromUtf8("ord " + std::to_string(i % 90'000)), i);
   EXPECT_EQ(messages, 0);
   list.setListIndex(299'999);
   EXPECT_LT(messages, 100);
@@ -117,9 +130,9 @@ TEST_F(Win32MainWindow, HundredsOfThousandsOfRowsCostTheListNoMessage) {
 }
 
 TEST_F(Win32MainWindow, TheListFindsTypedLettersAndKeepsItsSelection) {
-  for (const TextView word : {u"ask", u"kil", u"sax"}) list.AddItem(word);
+  for (const TextView word : {u"ask", u"kil", u"sax"}) list.AddItem(word, 1);
   list.setListIndex(0);
-  HWND view = shown(u"lstWords");
+  HWND view = handleOf(u"lstWords");
   SendMessageW(view, WM_CHAR, u's', 1);
   EXPECT_EQ(list.ListIndex(), 2);
   RECT place;
@@ -127,47 +140,30 @@ TEST_F(Win32MainWindow, TheListFindsTypedLettersAndKeepsItsSelection) {
   const LPARAM below = MAKELPARAM(place.right / 2, place.bottom - 5);
   PostMessageW(view, WM_LBUTTONDOWN, MK_LBUTTON, below);
   PostMessageW(view, WM_LBUTTONUP, 0, below);
-  user->settle();
+  hands->settle();
   EXPECT_EQ(list.ListIndex(), 2);
   EXPECT_EQ(SendMessageW(view, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED), 2);
 }
 
-TEST_F(Win32MainWindow, ItFollowsTheResolutionOfItsScreen) {
-  user->place(*window, {300, 300, 12000, 7500});
-  int resized = 0;
-  window->Resize = [&] { ++resized; };
-  const auto sizes = [this] {
-    RECT place;
-    GetClientRect(shown(u"picLogo"), &place);
-    LOGFONTW font;
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): Windows gives it so
-    auto* handle = reinterpret_cast<HFONT>(SendMessageW(shown(u"txtSearch"), WM_GETFONT, 0, 0));
-    GetObjectW(handle, sizeof font, &font);
-    return std::vector<long>{place.right, place.bottom, font.lfHeight};
-  };
-  EXPECT_EQ(sizes(), (std::vector<long>{169, 113, -13}));
-  RECT suggested{100, 50, 1300, 800};
-  SendMessageW(hwnd(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
-  EXPECT_EQ(sizes(), (std::vector<long>{254, 170, -20}));
-  EXPECT_EQ(window->outerPlace(), (Place{1000, 500, 12000, 7500}));
-  EXPECT_EQ(resized, 1);
-}
-
-TEST_F(Win32MainWindow, EnterAndEscAnswerTheAboutBox) {
-  const auto box = user->toolkit().createWindow(frmAboutDesign());
+TEST_F(Win32MainWindow, KeysAndClicksAnswerTheAboutBox) {
+  const auto box = hands->toolkit().createWindow(frmAboutDesign());
   std::string pressed;
   box->commandButton(u"cmdOK").Click = [&] { pressed += "OK "; };
   box->Click = [&] { pressed += "box "; };
   box->Show();
-  user->settle();
-  EXPECT_EQ(GetFocus(), win32Shown(box->control(u"cmdOK")).shown());
+  hands->settle();
+  EXPECT_EQ(GetFocus(), win32Widget(box->control(u"cmdOK")).handle());
   press(VK_ESCAPE);
   press(VK_RETURN);
-  SetFocus(win32Shown(box->control(u"Text1")).shown());
+  SetFocus(win32Widget(box->control(u"Text1")).handle());
   press(VK_ESCAPE);
   press(VK_RETURN);
-  user->click(box->commandButton(u"cmdOK"));
+  hands->click(box->commandButton(u"cmdOK"));
   EXPECT_EQ(pressed, "OK OK OK OK OK ");
+  for (const TextView name : {u"Label1", u"lblTitle", u"picIcon"}) hands->click(box->control(name));
+  EXPECT_EQ(pressed, "OK OK OK OK OK ") << "labels and pictures do nothing";
+  hands->click(box->control(u"Line1"));
+  EXPECT_EQ(pressed, "OK OK OK OK OK box ") << "a line is no control";
 }
 
 }  // namespace

@@ -172,7 +172,9 @@ class RealWindow(unittest.TestCase):
 
     def test_every_control_has_its_name(self):
         kinds = (Atspi.Role.LABEL, Atspi.Role.PANEL, Atspi.Role.MENU_ITEM)
-        names = {node.get_name() for node in self.nodes() if node.get_role() in kinds or
+        # To newer versions of Qt a picture is a panel too, and so is what lies around all parts.
+        names = {node.get_name() for node in self.nodes()
+                 if node.get_role() in kinds and node.get_name() not in ("", "Termvik logo") or
                  node.get_state_set().contains(Atspi.StateType.FOCUSABLE)}
         self.assertEqual(names, set(re.split("[;\n]", NAMES)))
 

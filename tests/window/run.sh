@@ -2,6 +2,7 @@
 # run.sh PROGRAM SCRATCH: drives the program on a display and a message bus of the test's own.
 set -euo pipefail
 here=$(dirname "${BASH_SOURCE[0]}")
+# shellcheck source=scripts/setup.sh
 source "$here/../../scripts/setup.sh"
 
 open_virtual_display

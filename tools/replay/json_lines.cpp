@@ -48,7 +48,7 @@ Json measureJson(float measure) {
 Json stateJson(Program& program) {
   Window& window = program.form().window();
   const ListBox& list = window.listBox(u"lstWords");
-  const TextBox& search = window.textBox(u"txtSearch");
+  const EditBox& search = window.editBox(u"txtSearch");
   const std::int32_t row = list.ListIndex();
   const defWords& words = program.words();
   Json state;

@@ -86,18 +86,18 @@ std::int16_t keyOf(std::string_view name) {
 
 }  // namespace
 
-Player::Player(User& user, const Collation& collation, const App& app, std::ostream& out)
-    : user_(user), collation_(collation), app_(app), out_(out) {
-  user_.seesMessage = [this](TextView prompt, TextView title) {
+Player::Player(Hands& hands, const Collation& collation, const App& app, std::ostream& out)
+    : hands_(hands), collation_(collation), app_(app), out_(out) {
+  hands_.seesMessage = [this](TextView prompt, TextView title) {
     Json message;
     message["message"] = textJson(prompt);
     message["title"] = textJson(title);
     out_ << message << '\n';
   };
-  user_.seesClipboard = [this](TextView text) {
+  hands_.seesClipboard = [this](TextView text) {
     out_ << Json{{"clipboard", textJson(text)}} << '\n';
   };
-  user_.seesModalBox = [this](Window& box) { out_ << aboutJson(box) << '\n'; };
+  hands_.seesModalBox = [this](Window& box) { out_ << aboutJson(box) << '\n'; };
 }
 
 void Player::play(std::string_view line) {
@@ -121,7 +121,7 @@ void Player::act(std::string_view command, std::string_view rest) {
   }
   if (!program_) throw ScriptError(quoted(command) + " needs the window: no start before it");
   if (command == "text") {
-    user_.replaceText(window().textBox(u"txtSearch"), stringText(rest));
+    hands_.replaceText(window().editBox(u"txtSearch"), stringText(rest));
   } else if (command == "type") {
     typeText(stringText(rest));
   } else {
@@ -132,7 +132,7 @@ void Player::act(std::string_view command, std::string_view rest) {
 }
 
 void Player::actOnWords(std::string_view command, const Words& words) {
-  if (command == "key") user_.press(window().textBox(u"txtSearch"), keyOf(words[0]));
+  if (command == "key") hands_.press(window().editBox(u"txtSearch"), keyOf(words[0]));
   if (command == "click") click(words[0]);
   if (command == "row") clickRow(words[0]);
   if (command == "option") clickOption(words[0], words[1]);
@@ -140,9 +140,9 @@ void Player::actOnWords(std::string_view command, const Words& words) {
   if (command == "menu") chooseMenu(words[0]);
   if (command == "call") call(words[0]);
   if (command == "window") placeWindow(words);
-  if (command == "maximise") user_.maximise(window());
-  if (command == "minimise") user_.minimise(window());
-  if (command == "restore") user_.restore(window());
+  if (command == "maximise") hands_.maximise(window());
+  if (command == "minimise") hands_.minimise(window());
+  if (command == "restore") hands_.restore(window());
   if (command == "state") out_ << stateJson(*program_) << '\n';
   if (command == "controls") out_ << controlsJson(*program_) << '\n';
   if (command == "rows") {
@@ -154,32 +154,32 @@ void Player::actOnWords(std::string_view command, const Words& words) {
 
 void Player::start() {
   if (program_) throw ScriptError("'start' while the program runs");
-  program_ = std::make_unique<Program>(user_.toolkit(), collation_, app_);
+  program_ = std::make_unique<Program>(hands_.toolkit(), collation_, app_);
   program_->start();
-  user_.settle();
+  hands_.settle();
 }
 
 void Player::close() {
-  user_.close(window());
+  hands_.close(window());
   program_.reset();
 }
 
 void Player::typeText(TextView text) {
-  TextBox& box = window().textBox(u"txtSearch");
-  user_.goToEnd(box);
-  for (const char16_t character : text) user_.type(box, character);
+  EditBox& box = window().editBox(u"txtSearch");
+  hands_.goToEnd(box);
+  for (const char16_t character : text) hands_.type(box, character);
 }
 
 void Player::click(std::string_view name) {
   if (name != "txtSearch" && name != "cmdSearchAgain") {
     throw ScriptError("'click' takes txtSearch or cmdSearchAgain, not " + quoted(name));
   }
-  user_.click(window().control(fromUtf8(name)));
+  hands_.click(window().control(fromUtf8(name)));
 }
 
 void Player::clickRow(std::string_view row) {
   ListBox& list = window().listBox(u"lstWords");
-  user_.clickRow(list, indexBelow(row, list.ListCount()));
+  hands_.clickRow(list, indexBelow(row, list.ListCount()));
 }
 
 void Player::clickOption(std::string_view name, std::string_view index) {
@@ -190,7 +190,7 @@ void Player::clickOption(std::string_view name, std::string_view index) {
   const Text wantedName = fromUtf8(name);
   for (const auto& control : window().controls()) {
     if (control->design().name == wantedName && control->design().index == wanted) {
-      user_.click(*control);
+      hands_.click(*control);
     }
   }
 }
@@ -198,7 +198,7 @@ void Player::clickOption(std::string_view name, std::string_view index) {
 void Player::check(std::string_view value) {
   const std::int32_t wanted = indexBelow(value, 2);
   CheckBox& box = window().checkBox(u"chkShowDoublet");
-  if (box.Value() != wanted) user_.click(box);
+  if (box.Value() != wanted) hands_.click(box);
 }
 
 void Player::chooseMenu(std::string_view name) {
@@ -208,7 +208,7 @@ void Player::chooseMenu(std::string_view name) {
                    [&](const auto& item) { return item.name == wanted; })) {
     throw ScriptError("there is no menu item " + quoted(name));
   }
-  user_.choose(window(), window().menuItem(wanted));
+  hands_.choose(window(), window().menuItem(wanted));
 }
 
 void Player::call(std::string_view operation) {
@@ -219,8 +219,8 @@ void Player::call(std::string_view operation) {
 }
 
 void Player::placeWindow(const Words& measures) {
-  user_.place(window(), {numberOf<float>(measures[0]), numberOf<float>(measures[1]),
-                         numberOf<float>(measures[2]), numberOf<float>(measures[3])});
+  hands_.place(window(), {numberOf<float>(measures[0]), numberOf<float>(measures[1]),
+                          numberOf<float>(measures[2]), numberOf<float>(measures[3])});
 }
 
 }  // namespace termvik::replay

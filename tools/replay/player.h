@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "app/program.h"
-#include "toolkit/user.h"
+#include "toolkit/shared/hands.h"
 
 namespace termvik::replay {
 
@@ -23,7 +23,7 @@ class ScriptError : public std::runtime_error {
 class Player {
  public:
   // What the program shows and what the script asks for is printed on `out`.
-  Player(User& user, const Collation& collation, const App& app, std::ostream& out);
+  Player(Hands& hands, const Collation& collation, const App& app, std::ostream& out);
 
   // Does what one line says. Throws ScriptError.
   void play(std::string_view line);
@@ -45,7 +45,7 @@ class Player {
   void close();
   Window& window() { return program_->form().window(); }
 
-  User& user_;
+  Hands& hands_;
   const Collation& collation_;
   const App& app_;
   std::ostream& out_;

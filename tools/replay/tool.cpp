@@ -12,14 +12,9 @@
 #include <string>
 #include <string_view>
 
-#include "common/files.h"
+#include "common/system/files.h"
 #include "player.h"
-#ifdef TERMVIK_WITH_QT
-#include "toolkit/qt/qt_user.h"
-#endif
-#ifdef TERMVIK_WITH_WIN32
-#include "toolkit/win32/win32_user.h"
-#endif
+#include "toolkit/hands/hands_by_name.h"
 
 namespace termvik {
 
@@ -72,17 +67,6 @@ bool readOptions(const replay::Arguments& arguments, Options& options, std::stri
   return wrong.empty();
 }
 
-std::unique_ptr<User> makeUser(const Options& options, const Collation& collation) {
-  if (options.toolkit == "memory") return makeMemoryUser(collation, options.screen);
-#ifdef TERMVIK_WITH_QT
-  if (options.toolkit == "qt") return makeQtUser(collation);
-#endif
-#ifdef TERMVIK_WITH_WIN32
-  if (options.toolkit == "win32") return makeWin32User(collation);
-#endif
-  return nullptr;
-}
-
 int playScript(std::istream& script, replay::Player& player) {
   std::string line;
   for (int number = 1; std::getline(script, line); ++number) {
@@ -99,14 +83,14 @@ int playScript(std::istream& script, replay::Player& player) {
 
 int run(const Options& options) {
   const Collation collation("sv_SE");
-  const std::unique_ptr<User> user = makeUser(options, collation);
-  if (!user) {
+  const std::unique_ptr<Hands> hands = makeHands(options.toolkit, collation, options.screen);
+  if (!hands) {
     std::cerr << "termvik-replay: this build has no toolkit " << options.toolkit << '\n';
     return kWrongUse;
   }
   App app;
   app.Path = options.folder;
-  replay::Player player(*user, collation, app, std::cout);
+  replay::Player player(*hands, collation, app, std::cout);
   if (options.script.empty()) return playScript(std::cin, player);
   std::ifstream script(options.script, std::ios::binary);
   if (!script) {

@@ -1,4 +1,4 @@
-// The tool behind the entry point that the platform asks for.
+// The tool, called by the entry point that the platform asks for.
 #pragma once
 
 #include <filesystem>
@@ -6,7 +6,7 @@
 
 namespace termvik::replay {
 
-// What stands on the command line behind the program's name. Paths hold every text that it can
+// What stands on the command line after the program's name. Paths hold every text that it can
 // have.
 using Arguments = std::vector<std::filesystem::path>;
 

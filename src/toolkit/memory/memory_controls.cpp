@@ -1,4 +1,4 @@
-#include "toolkit/memory/memory_controls.h"
+#include "memory_controls.h"
 
 #include <utility>
 
@@ -22,39 +22,33 @@ Place firstPlace(const WindowDesign& design) {
 
 }  // namespace
 
-void MemoryTextBox::setText(TextView text) {
-  text_ = text;
-  start_ = 0;
-  length_ = 0;
-}
-
-void MemoryTextBox::setSelStart(std::int32_t start) {
+void MemoryEditBox::setSelStart(std::int32_t start) {
   start_ = std::clamp(start, 0, size());
   length_ = 0;
 }
 
-void MemoryTextBox::setSelLength(std::int32_t length) {
+void MemoryEditBox::setSelLength(std::int32_t length) {
   length_ = std::clamp(length, 0, size() - start_);
 }
 
-void MemoryTextBox::userReplacesSelection(TextView text) {
-  if (design().locked) return;
+void MemoryEditBox::userReplacesSelection(TextView text) {
   text_.replace(static_cast<std::size_t>(start_), static_cast<std::size_t>(length_), text);
   start_ += static_cast<std::int32_t>(text.size());
   length_ = 0;
   userEdits();
 }
 
-void MemoryTextBox::userTypes(char16_t character) {
+void MemoryEditBox::userTypes(char16_t character) {
   if (!userPressesKey(keys::kOther) || !userGivesCharacter(character)) return;
   userReplacesSelection(TextView(&character, 1));
 }
 
-void MemoryTextBox::userPresses(std::int16_t keyCode) {
+void MemoryEditBox::userPresses(std::int16_t keyCode) {
   if (userPressesKey(keyCode) && keyCode == keys::kEnter) userGivesCharacter(keys::kEnter);
 }
 
 void MemoryListBox::userPresses(std::int16_t keyCode) {
+  if (ListCount() == 0) return;
   const std::int32_t step = keyCode == keys::kDown ? 1 : keyCode == keys::kUp ? -1 : 0;
   const std::int32_t row = std::clamp(ListIndex() + step, 0, ListCount() - 1);
   userSelects(row);
@@ -70,6 +64,8 @@ MemoryWindow::MemoryWindow(MemoryToolkit& toolkit, const WindowDesign& design)
 void MemoryWindow::addControl(const ControlDesign& design) {
   const auto add = [this](auto control) { Window::addControl(std::move(control)); };
   switch (design.kind) {
+    case ControlKind::EditBox:
+      return add(std::make_unique<MemoryEditBox>(design));
     case ControlKind::TextBox:
       return add(std::make_unique<MemoryTextBox>(design));
     case ControlKind::ListBox:
@@ -139,8 +135,9 @@ void MemoryToolkit::MsgBox(TextView prompt) {
   if (showMessage) showMessage(prompt);
 }
 
-void MemoryToolkit::setClipboardText(TextView text) {
+bool MemoryToolkit::setClipboardText(TextView text) {
   if (showClipboard) showClipboard(text);
+  return true;
 }
 
 }  // namespace termvik

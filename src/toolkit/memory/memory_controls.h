@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "toolkit/memory/memory_toolkit.h"
+#include "memory_toolkit.h"
 
 namespace termvik {
 
@@ -17,12 +17,11 @@ class Unseen : public Base {
   void showPlace() override {}
 };
 
-class MemoryTextBox : public Unseen<TextBox> {
+class MemoryEditBox : public Unseen<EditBox> {
  public:
-  explicit MemoryTextBox(const ControlDesign& design) : Unseen(design), text_(design.caption) {}
+  using Unseen::Unseen;
 
   Text text() const override { return text_; }
-  void setText(TextView text) override;
   std::int32_t SelStart() const override { return start_; }
   std::int32_t SelLength() const override { return length_; }
   void setSelStart(std::int32_t start) override;
@@ -39,6 +38,14 @@ class MemoryTextBox : public Unseen<TextBox> {
   Text text_;
   std::int32_t start_ = 0;
   std::int32_t length_ = 0;
+};
+
+class MemoryTextBox : public Unseen<TextBox> {
+ public:
+  using Unseen::Unseen;
+
+ protected:
+  void showText() override {}
 };
 
 class MemoryListBox : public Unseen<ListBox> {

@@ -1,12 +1,12 @@
-// The toolkit without a screen: keeps the contract and shows nothing. For tests, benchmarks,
-// fuzzing and termvik-replay.
+// The toolkit without a screen: keeps the contract and shows nothing. For tests, benchmarks
+// and termvik-replay.
 #pragma once
 
 #include <functional>
 #include <memory>
 #include <vector>
 
-#include "common/toolkit.h"
+#include "common/toolkit/toolkit.h"
 
 namespace termvik {
 
@@ -20,7 +20,7 @@ class MemoryToolkit : public Toolkit {
   std::unique_ptr<Window> createWindow(const WindowDesign& design) override;
   std::vector<Window*> Forms() const override { return open_; }
   void MsgBox(TextView prompt) override;
-  void setClipboardText(TextView text) override;
+  bool setClipboardText(TextView text) override;
 
   const ScreenSize& screen() const { return screen_; }
 

@@ -1,10 +1,8 @@
-#include "toolkit/qt/qt_controls.h"
+#include "qt_controls.h"
 
-#include <QImage>
+#include <QIcon>
 #include <QPainter>
 #include <QSignalBlocker>
-
-#include "toolkit/qt/qt_logo.h"
 
 namespace termvik {
 
@@ -18,8 +16,7 @@ QLabel* makeLabel(QWidget* parent, const ControlDesign& design) {
   return label;
 }
 
-// The logo, as large as its place allows. Drawn from the largest picture, so that it is sharp on
-// high-resolution screens too.
+// The logo, as large as its place allows; Qt takes the one of its pictures that is sharp there.
 class Picture : public QFrame {
  public:
   using QFrame::QFrame;
@@ -27,20 +24,12 @@ class Picture : public QFrame {
  protected:
   void paintEvent(QPaintEvent* event) override {
     QFrame::paintEvent(event);
-    QRectF place(contentsRect());
-    const QSizeF size = QSizeF(kLogoSize).scaled(place.size(), Qt::KeepAspectRatio);
-    place = QRectF(place.right() - size.width(), place.top(), size.width(), size.height());
     QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QImage logo(reinterpret_cast<const uchar*>(kLogoPixel), kLogoPixels.width(),
-                      kLogoPixels.height(), QImage::Format_ARGB32_Premultiplied);
-    const QImage sharp = logo.scaled((size * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
-                                     Qt::SmoothTransformation);
-    painter.drawImage(place, sharp, QRectF(sharp.rect()));
+    logo_.paint(&painter, contentsRect(), Qt::AlignTop | Qt::AlignRight);
   }
 
  private:
-  static constexpr QSize kLogoSize{168, 131};
+  QIcon logo_{QStringLiteral(":/logo.png")};
 };
 
 QFrame* makePicture(QWidget* parent, const ControlDesign& design) {

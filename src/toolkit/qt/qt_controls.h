@@ -10,25 +10,25 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "common/toolkit.h"
-#include "toolkit/qt/qt_text.h"
+#include "common/toolkit/toolkit.h"
+#include "qt_text.h"
 
 namespace termvik {
 
 // What shows a control.
-class QtShown {
+class QtWidget {
  public:
-  virtual ~QtShown() = default;
-  virtual QWidget* shown() const = 0;
+  virtual ~QtWidget() = default;
+  virtual QWidget* handle() const = 0;
 };
 
 inline QWidget* qtWidget(const Control& control) {
-  return dynamic_cast<const QtShown&>(control).shown();
+  return dynamic_cast<const QtWidget&>(control).handle();
 }
 
 // A control shown by a widget, which belongs to its parent widget.
 template <class Base, class Widget>
-class QtControl : public Base, public QtShown {
+class QtControl : public Base, public QtWidget {
  public:
   template <class... Arguments>
   QtControl(Widget* widget, const ControlDesign& design, Arguments&&... arguments)
@@ -37,10 +37,10 @@ class QtControl : public Base, public QtShown {
   }
 
   Widget* widget() const { return widget_; }
-  QWidget* shown() const override { return widget_; }
+  QWidget* handle() const override { return widget_; }
 
  protected:
-  void showPlace() override { widget_->setGeometry(toPixels(this->place())); }
+  void showPlace() override { widget_->setGeometry(toQt(toPixels(this->place(), kDpi))); }
 
  private:
   Widget* widget_;

@@ -1,6 +1,4 @@
-#include "toolkit/qt/qt_fonts.h"
-
-#include <algorithm>
+#include "qt_fonts.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -8,7 +6,8 @@
 #include <QFontMetrics>
 #include <QStyle>
 
-#include "toolkit/qt/qt_text.h"
+#include "qt_text.h"
+#include "toolkit/shared/captions.h"
 
 namespace termvik {
 
@@ -18,8 +17,6 @@ namespace {
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr int kLeastPixels = 11;  // the size that the captions' places were drawn for
 constexpr int kLeastMenuPixels = 9;
-constexpr int kStretchStep = 5;
-constexpr int kLeastStretch = 75;
 
 // Families as wide as the ones that the designs were drawn with.
 const QStringList& sansFamilies() {
@@ -59,23 +56,33 @@ int roomBesideCaption(const ControlDesign& design) {
   }
 }
 
-bool captionFits(const ControlDesign& design, const QFont& font) {
-  const QFontMetrics metrics(font);
-  const QRect place = toPixels(design.place);
-  const int width = place.width() - roomBesideCaption(design);
-  if (!design.multiLine) return metrics.horizontalAdvance(toQt(design.caption)) <= width;
-  const QRect needed =
-      metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, toQt(trimEnd(design.caption)));
-  return needed.width() <= width && needed.height() <= place.height();
+QFont with(const CaptionFont& caption, QFont font) {
+  if (!caption.family.empty()) font.setFamilies({toQt(caption.family)});
+  font.setPixelSize(caption.pixels);
+  if (caption.stretch != QFont::Unstretched) font.setStretch(caption.stretch);
+  return font;
 }
 
-// Texts to be read shrink by themselves: a long one must not make all captions small.
-bool allCaptionsFit(const WindowDesign& design, const QFont& font) {
-  return std::all_of(design.controls.begin(), design.controls.end(), [&](const auto& control) {
-    const bool sharesFont = control.font.points == 0 && control.kind != ControlKind::TextBox;
-    return !sharesFont || captionFits(control, font);
-  });
-}
+class Ruler : public CaptionRuler {
+ public:
+  explicit Ruler(const QFont& base) : base_(base) {}
+
+  PixelSize roomFor(const ControlDesign& design) const override {
+    const PixelSize place = toPixels(design.place, kDpi).size();
+    return {place.width - roomBesideCaption(design), place.height};
+  }
+
+  PixelSize sizeOf(const ControlDesign& design, const CaptionFont& caption,
+                   int width) const override {
+    const QFontMetrics metrics(with(caption, base_));
+    const QString text = toQt(trimEnd(design.caption));
+    if (width == 0) return {metrics.horizontalAdvance(text), metrics.height()};
+    return fromQt(metrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text)).size();
+  }
+
+ private:
+  QFont base_;
+};
 
 }  // namespace
 
@@ -93,21 +100,13 @@ QFont designedFont(const FontDesign& design) {
 }
 
 QFont captionFont(const WindowDesign& design) {
-  QFont font = QApplication::font();
-  const int pixels = std::max(QFontInfo(font).pixelSize(), kLeastPixels);
-  for (const QString& family : QStringList{QFontInfo(font).family()} + installed(sansFamilies())) {
-    font.setFamilies({family});
-    for (int size = pixels; size >= kLeastPixels; --size) {
-      font.setPixelSize(size);
-      if (allCaptionsFit(design, font)) return font;
-    }
+  const QFont own = QApplication::font();
+  const QFontInfo info(own);
+  CaptionFontChoice choice{.own = {fromQt(info.family()), info.pixelSize()}, .least = kLeastPixels};
+  for (const QString& family : installed(sansFamilies())) {
+    choice.families.push_back(fromQt(family));
   }
-  // Only wide fonts are installed: narrow the letters rather than make them too small to read.
-  int stretch = QFont::Unstretched;
-  while (stretch > kLeastStretch && !allCaptionsFit(design, font)) {
-    font.setStretch(stretch -= kStretchStep);
-  }
-  return font;
+  return with(captionFont(design, choice, Ruler(own)), own);
 }
 
 void fitMenuBar(QMenuBar& bar, QFont font, int width) {
@@ -119,11 +118,9 @@ void fitMenuBar(QMenuBar& bar, QFont font, int width) {
 }
 
 void shrinkToFit(QWidget& widget, const ControlDesign& design) {
-  QFont font = widget.font();
-  while (font.pixelSize() > 1 && !captionFits(design, font)) {
-    font.setPixelSize(font.pixelSize() - 1);
-  }
-  widget.setFont(font);
+  const QFont font = widget.font();
+  const CaptionFont wanted{.family = {}, .pixels = font.pixelSize()};
+  widget.setFont(with(fontThatFits(design, wanted, kLeastPixels, Ruler(font)), font));
 }
 
 }  // namespace termvik

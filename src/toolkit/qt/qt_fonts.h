@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <QWidget>
 
-#include "common/window_design.h"
+#include "common/toolkit/window_design.h"
 
 namespace termvik {
 

@@ -1,15 +1,14 @@
-#include "toolkit/qt/qt_list_box.h"
+#include "qt_list_box.h"
 
 #include <algorithm>
 
 #include <QStyledItemDelegate>
 
+#include "toolkit/shared/shown_limits.h"
+
 namespace termvik {
 
 namespace {
-
-// No list is wide enough to show more; a line of megabytes must not be laid out.
-constexpr std::size_t kMostShown = 1000;
 
 // All rows have one height, so that the view never measures their texts.
 class RowDelegate : public QStyledItemDelegate {
@@ -30,7 +29,7 @@ int RowsModel::rowCount(const QModelIndex& parent) const {
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || changing_ || role != Qt::DisplayRole) return {};
-  return toQt(rows_.text(index.row()).substr(0, kMostShown));
+  return toQt(rows_.text(index.row()).substr(0, kMostShownOfRow));
 }
 
 void RowsModel::beginChange() {

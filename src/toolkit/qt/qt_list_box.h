@@ -4,7 +4,7 @@
 #include <QAbstractListModel>
 #include <QListView>
 
-#include "toolkit/qt/qt_controls.h"
+#include "qt_controls.h"
 
 namespace termvik {
 

@@ -1,13 +1,11 @@
 // Between the program's texts and measures and Qt's.
 #pragma once
 
-#include <cmath>
-
 #include <QRect>
 #include <QString>
 
-#include "common/text.h"
-#include "common/window_design.h"
+#include "common/system/text.h"
+#include "toolkit/shared/pixels.h"
 
 namespace termvik {
 
@@ -29,19 +27,17 @@ inline Qt::Alignment qtAlignment(Alignment alignment) {
 }
 
 // A logical pixel is 15 twips on every screen; Qt does the rest for high resolutions.
-inline constexpr float kTwipsPerPixel = 15;
+inline constexpr int kDpi = 96;
 
-inline int toPixels(float twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
+inline int toPixels(float twips) { return toPixels(twips, kDpi); }
+inline float toTwips(int pixels) { return toTwips(pixels, kDpi); }
 
-inline float toTwips(int pixels) { return static_cast<float>(pixels) * kTwipsPerPixel; }
+inline QRect toQt(const PixelRect& place) {
+  return {place.left, place.top, place.width(), place.height()};
+}
 
-// Right and bottom edges are rounded for themselves, so that controls that share an edge in twips
-// share it in pixels.
-inline QRect toPixels(const Place& place) {
-  const int left = toPixels(place.left);
-  const int top = toPixels(place.top);
-  return {left, top, toPixels(place.left + place.width) - left,
-          toPixels(place.top + place.height) - top};
+inline PixelRect fromQt(const QRect& place) {
+  return {place.left(), place.top(), place.left() + place.width(), place.top() + place.height()};
 }
 
 }  // namespace termvik

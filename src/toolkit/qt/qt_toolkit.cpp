@@ -6,9 +6,9 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include "common/app.h"
-#include "toolkit/qt/qt_text.h"
-#include "toolkit/qt/qt_window.h"
+#include "common/system/app.h"
+#include "qt_text.h"
+#include "qt_window.h"
 
 // Outside the namespace, as the macro asks; a static library's pictures are not there by
 // themselves.
@@ -19,7 +19,7 @@ namespace termvik {
 void QtToolkit::setUpApplication() {
   initPictures();
   QApplication::setApplicationName(toQt(kProgramName));
-  QGuiApplication::setDesktopFileName(QStringLiteral("termvik"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("test.termvik.Termvik"));
 }
 
 void QtToolkit::showIcon() {
@@ -45,8 +45,12 @@ void QtToolkit::MsgBox(TextView prompt) {
   box.exec();
 }
 
-void QtToolkit::setClipboardText(TextView text) {
-  QGuiApplication::clipboard()->setText(toQt(text));
+// Qt itself does not tell: Wayland takes no text from a window without the focus, X11 none where
+// another program was just a little later.
+bool QtToolkit::setClipboardText(TextView text) {
+  QClipboard& clipboard = *QGuiApplication::clipboard();
+  clipboard.setText(toQt(text));
+  return fromQt(clipboard.text()) == text;
 }
 
 }  // namespace termvik

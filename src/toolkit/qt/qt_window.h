@@ -8,7 +8,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
-#include "common/toolkit.h"
+#include "common/toolkit/toolkit.h"
+#include "toolkit/shared/known_place.h"
 
 namespace termvik {
 
@@ -19,7 +20,7 @@ class QtWindow : public Window {
   QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowDesign& design);
   ~QtWindow() override;
 
-  Place outerPlace() const override { return outer_; }
+  Place outerPlace() const override { return place_.outer(); }
   void setOuterPlace(const Place& place) override;
   WindowState State() const override;
   void maximise() override;
@@ -34,6 +35,10 @@ class QtWindow : public Window {
  private:
   class MainWindow;
 
+  // qt_window.cpp
+  void userCloses();
+
+  // qt_window_parts.cpp
   void addControls(const Collation& collation);
   void addControl(const ControlDesign& design, const QFont& captionFont,
                   const Collation& collation);
@@ -44,22 +49,22 @@ class QtWindow : public Window {
   void addKeys();
   void focusMenuBar();
   void leaveMenuBar();
-  void placeWidget();
+
+  // qt_window_place.cpp
+  void placeWidget(const Place& place);
   QRect outerPixels() const;
   void learnFrame();
   void watchFrame();
   void readPlace();
-  void userCloses();
 
   QtToolkit& toolkit_;
-  std::unique_ptr<MainWindow> widget_;
+  std::unique_ptr<QMainWindow> widget_;
   QEventLoop modalLoop_;
   std::vector<std::pair<const MenuItem*, QAction*>> actions_;
   QPointer<QWidget> focusBehindMenu_;
 
-  Place outer_;     // in force, as the program knows it
-  QRect placed_;    // the outer rectangle in pixels that outer_ stands for
-  QMargins frame_;  // the frame that placed_ was reckoned with
+  KnownPlace place_;
+  QMargins frame_;  // the frame that place_ was reckoned with
   bool frameKnown_ = false;
   bool wantsSize_ = false;      // the program has set the outer size and the frame is not yet known
   bool wantsPosition_ = false;  // the same for the position

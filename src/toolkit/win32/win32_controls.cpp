@@ -1,9 +1,9 @@
-#include "toolkit/win32/win32_controls.h"
+#include "win32_controls.h"
 
 #include <commctrl.h>
 
-#include "toolkit/win32/win32_text.h"
-#include "toolkit/win32/win32_window.h"
+#include "win32_text.h"
+#include "win32_window.h"
 
 namespace termvik {
 
@@ -22,12 +22,12 @@ struct Colours {
 
 Colours coloursOf(const ControlDesign& design) {
   if (design.backColour == Colour::ToolTipBackground) return {COLOR_INFOTEXT, COLOR_INFOBK};
-  const bool isBox = design.kind == ControlKind::TextBox;
+  const bool isBox = design.kind == ControlKind::EditBox || design.kind == ControlKind::TextBox;
   if (isBox && design.backColour == Colour::Default) return {COLOR_WINDOWTEXT, COLOR_WINDOW};
   return {COLOR_BTNTEXT, COLOR_BTNFACE};
 }
 
-Win32Shown::Look decorationLook(const ControlDesign& design) {
+Win32Widget::Look decorationLook(const ControlDesign& design) {
   switch (design.kind) {
     case ControlKind::Frame:
       // Transparent: the window paints what the frame holds, the frame only its line and caption.
@@ -41,34 +41,34 @@ Win32Shown::Look decorationLook(const ControlDesign& design) {
 
 }  // namespace
 
-Win32Shown::Win32Shown(Win32Window& window, const ControlDesign& design, const Look& look)
+Win32Widget::Win32Widget(Win32Window& window, const ControlDesign& design, const Look& look)
     : window_(window),
-      shown_(CreateWindowExW(look.extendedStyle, look.className, wide(design.caption).c_str(),
-                             look.style | window.commonStyle(design), 0, 0, 0, 0, window.hwnd(),
-                             window.nextId(), GetModuleHandleW(nullptr), nullptr)) {
-  SetWindowLongPtrW(shown_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+      handle_(CreateWindowExW(look.extendedStyle, look.className, wide(design.caption).c_str(),
+                              look.style | window.commonStyle(design), 0, 0, 0, 0, window.hwnd(),
+                              window.nextId(), GetModuleHandleW(nullptr), nullptr)) {
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   kind_ = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(shown_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure)));
+      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&procedure)));
 }
 
-LRESULT CALLBACK Win32Shown::procedure(HWND shown, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* self = reinterpret_cast<Win32Shown*>(GetWindowLongPtrW(shown, GWLP_USERDATA));
-  return self->handle(message, wParam, lParam);
+LRESULT CALLBACK Win32Widget::procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* self = reinterpret_cast<Win32Widget*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
+  return self->onMessage(message, wParam, lParam);
 }
 
-LRESULT Win32Shown::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT Win32Widget::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   return passOn(message, wParam, lParam);
 }
 
-LRESULT Win32Shown::passOn(UINT message, WPARAM wParam, LPARAM lParam) const {
-  return CallWindowProcW(kind_, shown_, message, wParam, lParam);
+LRESULT Win32Widget::passOn(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return CallWindowProcW(kind_, handle_, message, wParam, lParam);
 }
 
-LRESULT Win32Shown::send(UINT message, WPARAM wParam, LPARAM lParam) const {
-  return SendMessageW(shown_, message, wParam, lParam);
+LRESULT Win32Widget::send(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return SendMessageW(handle_, message, wParam, lParam);
 }
 
-void Win32Shown::showAt(Control& control) const { window_.placeControl(control, shown_); }
+void Win32Widget::showAt(Control& control) const { window_.placeControl(control, handle_); }
 
 Win32OptionButton::Win32OptionButton(Win32Window& window, const ControlDesign& design,
                                      OptionGroup& group)
@@ -85,8 +85,8 @@ void Win32OptionButton::reports(WORD code) {
 void Win32OptionButton::showValue() {
   send(BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED);
   constexpr LONG_PTR kStop = WS_TABSTOP;
-  const LONG_PTR style = GetWindowLongPtrW(shown(), GWL_STYLE) & ~kStop;
-  SetWindowLongPtrW(shown(), GWL_STYLE, style | (window().isTabStop(*this) ? kStop : 0));
+  const LONG_PTR style = GetWindowLongPtrW(handle(), GWL_STYLE) & ~kStop;
+  SetWindowLongPtrW(handle(), GWL_STYLE, style | (window().isTabStop(*this) ? kStop : 0));
 }
 
 Win32CheckBox::Win32CheckBox(Win32Window& window, const ControlDesign& design)
@@ -103,7 +103,7 @@ Win32CommandButton::Win32CommandButton(Win32Window& window, const ControlDesign&
           window,
           {WC_BUTTONW, static_cast<DWORD>(design.isDefault ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON)},
           design) {
-  EnableWindow(shown(), Enabled());
+  EnableWindow(handle(), Enabled());
 }
 
 void Win32CommandButton::reports(WORD code) {
@@ -112,10 +112,10 @@ void Win32CommandButton::reports(WORD code) {
 
 // A button that is switched off hands the focus on: it could do nothing with a key.
 void Win32CommandButton::showEnabled() {
-  if (!Enabled() && GetFocus() == shown()) {
-    SetFocus(GetNextDlgTabItem(window().hwnd(), shown(), FALSE));
+  if (!Enabled() && GetFocus() == handle()) {
+    SetFocus(GetNextDlgTabItem(window().hwnd(), handle(), FALSE));
   }
-  EnableWindow(shown(), Enabled());
+  EnableWindow(handle(), Enabled());
 }
 
 std::unique_ptr<Control> makeWin32Decoration(Win32Window& window, const ControlDesign& design) {

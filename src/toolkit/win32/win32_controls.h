@@ -5,14 +5,14 @@
 #include <utility>
 #include <windows.h>
 
-#include "common/toolkit.h"
+#include "common/toolkit/toolkit.h"
 
 namespace termvik {
 
 class Win32Window;
 
 // What shows a control: a child window, whose messages come here first.
-class Win32Shown {
+class Win32Widget {
  public:
   struct Look {
     const wchar_t* className;
@@ -20,12 +20,12 @@ class Win32Shown {
     DWORD extendedStyle = 0;
   };
 
-  Win32Shown(Win32Window& window, const ControlDesign& design, const Look& look);
-  virtual ~Win32Shown() = default;
-  Win32Shown(const Win32Shown&) = delete;
-  Win32Shown& operator=(const Win32Shown&) = delete;
+  Win32Widget(Win32Window& window, const ControlDesign& design, const Look& look);
+  virtual ~Win32Widget() = default;
+  Win32Widget(const Win32Widget&) = delete;
+  Win32Widget& operator=(const Win32Widget&) = delete;
 
-  HWND shown() const { return shown_; }
+  HWND handle() const { return handle_; }
 
   // What the control reports to the window that it lies in: WM_COMMAND, WM_NOTIFY, WM_DRAWITEM.
   virtual void reports(WORD /*code*/) {}
@@ -33,29 +33,29 @@ class Win32Shown {
   virtual void draw(const DRAWITEMSTRUCT& /*item*/) {}
 
  protected:
-  virtual LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+  virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT passOn(UINT message, WPARAM wParam, LPARAM lParam) const;  // to the control's own kind
   LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   void showAt(Control& control) const;
   Win32Window& window() const { return window_; }
 
  private:
-  static LRESULT CALLBACK procedure(HWND shown, UINT message, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
 
   Win32Window& window_;
-  HWND shown_;
+  HWND handle_;
   WNDPROC kind_;  // handles what all controls of the kind do
 };
 
-inline Win32Shown& win32Shown(Control& control) { return dynamic_cast<Win32Shown&>(control); }
+inline Win32Widget& win32Widget(Control& control) { return dynamic_cast<Win32Widget&>(control); }
 
 template <class Base>
-class Win32Control : public Base, public Win32Shown {
+class Win32Control : public Base, public Win32Widget {
  public:
   template <class... Arguments>
   Win32Control(Win32Window& window, const Look& look, const ControlDesign& design,
                Arguments&&... arguments)
-      : Base(design, std::forward<Arguments>(arguments)...), Win32Shown(window, design, look) {
+      : Base(design, std::forward<Arguments>(arguments)...), Win32Widget(window, design, look) {
     Win32Control::showPlace();
   }
 

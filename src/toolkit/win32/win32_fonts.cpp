@@ -1,12 +1,13 @@
-#include "toolkit/win32/win32_fonts.h"
+#include "win32_fonts.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <cstring>
 #include <string>
 
-#include "toolkit/win32/win32_screen.h"
-#include "toolkit/win32/win32_text.h"
+#include "toolkit/shared/captions.h"
+#include "win32_screen.h"
+#include "win32_text.h"
 
 namespace termvik {
 
@@ -19,8 +20,7 @@ constexpr int kLeastPixels =
 constexpr int kBoxBorders = 6;  // at the usual resolution: above and below the text of a box
 
 // Narrower than the message fonts of today's Windows, in the order of preference.
-constexpr std::array<TextView, 4> kNarrowFamilies = {u"Tahoma", u"Microsoft Sans Serif", u"Arial",
-                                                     u"Liberation Sans"};
+const std::vector<Text> kNarrowFamilies = {u"Tahoma", u"Microsoft Sans Serif", u"Arial"};
 
 // The family of that name that scales: what bears the name itself is a set of bitmaps of a few
 // sizes and one code page.
@@ -50,101 +50,109 @@ LOGFONTW designedFont(const FontDesign& design, int dpi) {
   return font;
 }
 
-// Measures texts in one font.
-class Ruler {
- public:
-  explicit Ruler(const LOGFONTW& font)
-      : font_(CreateFontIndirectW(&font)),
-        context_(GetDC(nullptr)),  // of the screen: elsewhere letters have other widths
-        before_(SelectObject(context_, font_.get())) {}
-  ~Ruler() {
-    SelectObject(context_, before_);
-    ReleaseDC(nullptr, context_);
-  }
-  Ruler(const Ruler&) = delete;
-  Ruler& operator=(const Ruler&) = delete;
-
-  // The size of a text on one line, or wrapped at `width` pixels.
-  SIZE sizeOf(TextView text, UINT flags, int width = 0) const {
-    RECT place{0, 0, width, 0};
-    const std::wstring shown = wide(text);
-    DrawTextW(context_, shown.c_str(), static_cast<int>(shown.size()), &place, DT_CALCRECT | flags);
-    return {widthOf(place), heightOf(place)};
-  }
-
- private:
-  Font font_;
-  HDC context_;
-  HGDIOBJ before_;
-};
-
-// What a control needs beside its caption, in pixels at the usual resolution.
+// What a control needs beside its caption, in pixels at the usual resolution. Letters can reach
+// beyond the width that they are said to have.
 int roomBesideCaption(ControlKind kind) {
   switch (kind) {
     case ControlKind::OptionButton:
     case ControlKind::CheckBox:
-      return 20;  // the sign and the gaps beside the caption
+      return 19;  // of these the sign takes 13 and the gap after it 3
     case ControlKind::CommandButton:
     case ControlKind::TextBox:
       return 14;  // borders and margins
     case ControlKind::Frame:
       return 20;  // the line at both sides
     default:
-      return 4;  // letters can reach beyond the width that they are said to have
+      return 4;
   }
 }
 
-bool captionFits(const ControlDesign& design, const LOGFONTW& font, int dpi) {
-  const Ruler ruler(font);
-  const RECT place = toPixels(design.place, dpi);
-  const int width = widthOf(place) - MulDiv(roomBesideCaption(design.kind), dpi, kUsualDpi);
-  if (!design.multiLine) return ruler.sizeOf(design.caption, DT_SINGLELINE).cx <= width;
-  const bool isBox = design.kind == ControlKind::TextBox;
-  const UINT flags = DT_WORDBREAK | DT_NOPREFIX | (isBox ? DT_EDITCONTROL : 0);
-  const SIZE needed = ruler.sizeOf(trimEnd(design.caption), flags, width);
-  const int borders = isBox ? MulDiv(kBoxBorders, dpi, kUsualDpi) : 0;
-  return needed.cx <= width && needed.cy <= heightOf(place) - borders;
-}
+// Measures in variants of one font.
+class Ruler : public CaptionRuler {
+ public:
+  Ruler(const LOGFONTW& base, int dpi) : base_(base), dpi_(dpi), context_(GetDC(nullptr)) {}
+  ~Ruler() override { ReleaseDC(nullptr, context_); }
 
-// Texts to be read shrink by themselves: a long one must not make all captions small.
-bool allCaptionsFit(const WindowDesign& design, const LOGFONTW& font, int dpi) {
-  return std::all_of(design.controls.begin(), design.controls.end(), [&](const auto& control) {
-    const bool sharesFont = control.font.points == 0 && control.kind != ControlKind::TextBox;
-    return !sharesFont || captionFits(control, font, dpi);
-  });
-}
-
-LOGFONTW captionFont(const WindowDesign& design, int dpi) {
-  LOGFONTW font = messageFont(dpi);
-  const int least = MulDiv(kLeastPixels, dpi, kUsualDpi);
-  const int pixels = std::max(pixelsOf(font), least);
-  const auto shrinksToFit = [&] {
-    for (int size = pixels; size >= least; --size) {
-      setPixels(font, size);
-      if (allCaptionsFit(design, font, dpi)) return true;
+  LOGFONTW variant(const CaptionFont& caption) const {
+    LOGFONTW font = base_;
+    if (!caption.family.empty()) setFamily(font, caption.family);
+    setPixels(font, caption.pixels);
+    if (caption.stretch != CaptionFont().stretch) {
+      font.lfWidth = MulDiv(averageWidth(font), caption.stretch, CaptionFont().stretch);
     }
-    return false;
-  };
-  if (shrinksToFit()) return font;
-  for (const TextView family : kNarrowFamilies) {
-    setFamily(font, family);
-    if (shrinksToFit()) break;
+    return font;
   }
-  return font;
+
+  PixelSize roomFor(const ControlDesign& design) const override {
+    const PixelSize place = toPixels(design.place, dpi_).size();
+    const int borders = design.kind == ControlKind::TextBox ? kBoxBorders : 0;
+    return {place.width - MulDiv(roomBesideCaption(design.kind), dpi_, kUsualDpi),
+            place.height - MulDiv(borders, dpi_, kUsualDpi)};
+  }
+
+  PixelSize sizeOf(const ControlDesign& design, const CaptionFont& caption,
+                   int width) const override {
+    const bool isBox = design.kind == ControlKind::TextBox;
+    const UINT flags = width == 0 ? DT_SINGLELINE : DT_WORDBREAK | (isBox ? DT_EDITCONTROL : 0U);
+    // A label breaks its lines at its edge, not where its letters begin to need room.
+    const int edge = isBox ? width : toPixels(design.place, dpi_).width();
+    RECT place{0, 0, edge, 0};
+    const std::wstring shown = wide(trimEnd(design.caption));
+    withFont(variant(caption), [&] {
+      DrawTextW(context_, shown.c_str(), static_cast<int>(shown.size()), &place,
+                DT_CALCRECT | DT_NOPREFIX | flags);
+    });
+    return fromRect(place).size();
+  }
+
+ private:
+  template <class Measure>
+  void withFont(const LOGFONTW& logical, Measure measure) const {
+    const Font font(CreateFontIndirectW(&logical));
+    const HGDIOBJ before = SelectObject(context_, font.get());
+    measure();
+    SelectObject(context_, before);
+  }
+
+  // Of its letters, as LOGFONT counts widths.
+  int averageWidth(const LOGFONTW& font) const {
+    TEXTMETRICW metrics{};
+    withFont(font, [&] { GetTextMetricsW(context_, &metrics); });
+    return metrics.tmAveCharWidth;
+  }
+
+  LOGFONTW base_;
+  int dpi_;
+  HDC context_;  // of the screen: elsewhere letters have other widths
+};
+
+int leastPixels(int dpi) { return MulDiv(kLeastPixels, dpi, kUsualDpi); }
+
+LOGFONTW captionFontOf(const WindowDesign& design, const LOGFONTW& own, int dpi) {
+  const Ruler ruler(own, dpi);
+  CaptionFontChoice choice;
+  choice.own.pixels = pixelsOf(own);
+  choice.families = kNarrowFamilies;
+  choice.least = leastPixels(dpi);
+  choice.mayBeTooLong = 1;
+  return ruler.variant(captionFont(design, choice, ruler));
 }
 
 }  // namespace
 
 Win32Fonts::Win32Fonts(const WindowDesign& design, int dpi)
-    : dpi_(dpi), captions_(captionFont(design, dpi)) {}
+    : dpi_(dpi), own_(messageFont(dpi)), captions_(captionFontOf(design, own_, dpi)) {}
+
+bool Win32Fonts::areStale() const {
+  const LOGFONTW now = messageFont(dpi_);
+  return std::memcmp(&now, &own_, sizeof now) != 0;
+}
 
 HFONT Win32Fonts::fontFor(const ControlDesign& design) {
-  LOGFONTW font = design.font.points > 0 ? designedFont(design.font, dpi_) : captions_;
-  if (!design.caption.empty()) {
-    while (pixelsOf(font) > 1 && !captionFits(design, font, dpi_)) {
-      setPixels(font, pixelsOf(font) - 1);
-    }
-  }
+  const LOGFONTW wanted = design.font.points > 0 ? designedFont(design.font, dpi_) : captions_;
+  const Ruler ruler(wanted, dpi_);
+  const LOGFONTW font = ruler.variant(
+      fontThatFits(design, {.family = {}, .pixels = pixelsOf(wanted)}, leastPixels(dpi_), ruler));
   made_.emplace_back(CreateFontIndirectW(&font));
   return made_.back().get();
 }

@@ -6,7 +6,7 @@
 #include <vector>
 #include <windows.h>
 
-#include "common/window_design.h"
+#include "common/toolkit/window_design.h"
 
 namespace termvik {
 
@@ -20,13 +20,16 @@ class Win32Fonts {
  public:
   Win32Fonts(const WindowDesign& design, int dpi);
 
+  bool areStale() const;  // the user has chosen another font since
+
   // The font for a control: the one that its design names, or one of the same proportions where it
-  // is not installed; otherwise the user's own, in the largest size in which every caption of the
-  // window fits. Good as long as this object.
+  // is not installed; otherwise the user's own, in the largest size in which the captions of the
+  // window fit. Good as long as this object.
   HFONT fontFor(const ControlDesign& design);
 
  private:
   int dpi_;
+  LOGFONTW own_;
   LOGFONTW captions_;
   std::vector<Font> made_;
 };

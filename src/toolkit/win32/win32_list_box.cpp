@@ -1,19 +1,18 @@
-#include "toolkit/win32/win32_list_box.h"
+#include "win32_list_box.h"
 
-#include "toolkit/win32/win32_text.h"
+#include "toolkit/shared/shown_limits.h"
+#include "win32_text.h"
 
 namespace termvik {
 
 namespace {
 
-// No list is wide enough to show more; a line of megabytes must not be measured.
-constexpr std::size_t kMostShown = 1000;
-
 constexpr UINT kKeepSelection = WM_APP;  // to the list view itself
 
 constexpr DWORD kStyle =
     LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
-constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
+// A row that is wider than the list unfolds as a tip under the mouse.
+constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
 constexpr UINT kSelected = LVIS_SELECTED | LVIS_FOCUSED;
 
 }  // namespace
@@ -32,10 +31,10 @@ Win32ListBox::Win32ListBox(Win32Window& window, const ControlDesign& design,
 void Win32ListBox::showRows() {
   if (stale_) return;
   stale_ = true;
-  InvalidateRect(shown(), nullptr, FALSE);  // at the latest its painting
+  InvalidateRect(handle(), nullptr, FALSE);  // at the latest its painting
 }
 
-LRESULT Win32ListBox::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT Win32ListBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (stale_) bringUpToDate();
   if (message == kKeepSelection) {
     keepSelection();
@@ -83,7 +82,7 @@ void Win32ListBox::keepSelection() {
 // The one column is as wide as the list: longer texts end at its edge.
 void Win32ListBox::fitColumn() const {
   RECT client;
-  GetClientRect(shown(), &client);
+  GetClientRect(handle(), &client);
   send(LVM_SETCOLUMNWIDTH, 0, widthOf(client));
 }
 
@@ -110,7 +109,7 @@ void Win32ListBox::selectionChanges(const NMLISTVIEW& change) {
   const bool is = (change.uNewState & LVIS_SELECTED) != 0;
   if (is && change.iItem >= 0) userSelects(change.iItem);
   // Most often because another row is about to be selected; only afterwards is it known.
-  if (was && !is) PostMessageW(shown(), kKeepSelection, 0, 0);
+  if (was && !is) PostMessageW(handle(), kKeepSelection, 0, 0);
 }
 
 // The selected row always stands out: the user looks at it while typing in the search box, and a
@@ -131,7 +130,7 @@ void Win32ListBox::giveText(LVITEMW& item) {
   std::wstring& given = given_[nextGiven_];
   nextGiven_ = (nextGiven_ + 1) % given_.size();
   const bool isThere = item.iItem >= 0 && item.iItem < rows().count();
-  given = isThere ? shownText(rows().text(item.iItem).substr(0, kMostShown)) : std::wstring();
+  given = isThere ? shownText(rows().text(item.iItem).substr(0, kMostShownOfRow)) : std::wstring();
   item.pszText = given.data();
 }
 
@@ -141,8 +140,8 @@ LRESULT Win32ListBox::findRow(const NMLVFINDITEMW& wanted) const {
   const Text beginning = fromWide(wanted.lvfi.psz);
   for (const std::int32_t from : {wanted.iStart, 0}) {
     if (from >= rows().count()) continue;
-    const SortedRows::Walk walk = rows().findPrefix(beginning, from);
-    if (walk.fits) return walk.row;
+    const SortedRows::Fit fit = rows().bestFit(beginning, from);
+    if (fit.length == beginning.size()) return fit.row;
   }
   return -1;
 }

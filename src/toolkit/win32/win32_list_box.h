@@ -4,9 +4,9 @@
 #include <array>
 #include <string>
 
-#include "toolkit/win32/win32_controls.h"
+#include "win32_controls.h"
 
-// Behind the header that it needs.
+// After the header that it needs.
 #include <commctrl.h>
 
 namespace termvik {
@@ -21,7 +21,7 @@ class Win32ListBox : public Win32Control<ListBox> {
   void showRows() override;
   void showRowText(std::int32_t) override { showRows(); }
   void showSelection() override;
-  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+  LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   void bringUpToDate();

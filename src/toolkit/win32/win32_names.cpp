@@ -1,11 +1,11 @@
-#include "toolkit/win32/win32_names.h"
+#include "win32_names.h"
 
 #include <objbase.h>
 
-// Behind the header that it needs. Its GUIDs lie in a library.
+// After the header that it needs. Its GUIDs lie in a library.
 #include <oleacc.h>
 
-#include "toolkit/win32/win32_text.h"
+#include "win32_text.h"
 
 namespace termvik {
 

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "common/text.h"
+#include "common/system/text.h"
 
 namespace termvik {
 

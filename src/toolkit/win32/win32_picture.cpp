@@ -1,14 +1,14 @@
-#include "toolkit/win32/win32_picture.h"
+#include "win32_picture.h"
 
 #include <algorithm>
 #include <commctrl.h>
 #include <objidl.h>
 
-// Behind the headers that it needs.
+// After the header that it needs.
 #include <gdiplus.h>
 
-#include "toolkit/win32/win32_resources.h"
-#include "toolkit/win32/win32_text.h"
+#include "win32_resources.h"
+#include "win32_text.h"
 
 namespace termvik {
 

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "toolkit/win32/win32_controls.h"
+#include "win32_controls.h"
 
 namespace Gdiplus {
 class Image;

@@ -1,6 +1,6 @@
-#include "toolkit/win32/win32_screen.h"
+#include "win32_screen.h"
 
-#include "toolkit/win32/win32_text.h"
+#include "win32_text.h"
 
 namespace termvik {
 
@@ -26,6 +26,12 @@ int dpiOf(HWND window) {
   static const auto ofWindow = laterFunction<UINT WINAPI(HWND)>("GetDpiForWindow");
   const UINT dpi = ofWindow != nullptr ? ofWindow(window) : 0;
   return dpi > 0 ? static_cast<int>(dpi) : dpiOfDesktop();
+}
+
+int systemMetric(int metric, int dpi) {
+  static const auto forDpi = laterFunction<int WINAPI(int, UINT)>("GetSystemMetricsForDpi");
+  if (forDpi != nullptr) return forDpi(metric, static_cast<UINT>(dpi));
+  return MulDiv(GetSystemMetrics(metric), dpi, dpiOfDesktop());
 }
 
 LOGFONTW messageFont(int dpi) {

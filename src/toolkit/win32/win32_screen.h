@@ -10,6 +10,9 @@ inline constexpr int kUsualDpi = 96;
 // The pixels to the inch with which a window shows itself.
 int dpiOf(HWND window);
 
+// GetSystemMetrics at a resolution.
+int systemMetric(int metric, int dpi);
+
 // The font of messages and captions that the user has chosen for a screen of `dpi`.
 LOGFONTW messageFont(int dpi);
 

@@ -2,12 +2,11 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <windows.h>
 
-#include "common/wide_win.h"
-#include "common/window_design.h"
+#include "common/system/wide_win.h"
+#include "toolkit/shared/pixels.h"
 
 namespace termvik {
 
@@ -18,26 +17,12 @@ inline std::wstring shownText(TextView text) {
   return shown;
 }
 
-// A twip is 1/1440 inch; `dpi` is how many pixels the user's settings make an inch on a screen.
-inline constexpr float kTwipsPerInch = 1440;
-
-// Far outside any screen; Windows' own limit of a coordinate is a little above.
-inline constexpr float kMostPixels = 30000;
-
-inline int toPixels(float twips, int dpi) {
-  const float pixels = twips * static_cast<float>(dpi) / kTwipsPerInch;
-  return static_cast<int>(std::lround(std::clamp(pixels, -kMostPixels, kMostPixels)));
+inline RECT toRect(const PixelRect& place) {
+  return {place.left, place.top, place.right, place.bottom};
 }
 
-inline float toTwips(long pixels, int dpi) {
-  return static_cast<float>(pixels) * kTwipsPerInch / static_cast<float>(dpi);
-}
-
-// Right and bottom edges are rounded for themselves, so that controls that share an edge in twips
-// share it in pixels.
-inline RECT toPixels(const Place& place, int dpi) {
-  return {toPixels(place.left, dpi), toPixels(place.top, dpi),
-          toPixels(place.left + place.width, dpi), toPixels(place.top + place.height, dpi)};
+inline PixelRect fromRect(const RECT& place) {
+  return {place.left, place.top, place.right, place.bottom};
 }
 
 inline int widthOf(const RECT& rectangle) { return rectangle.right - rectangle.left; }

@@ -3,19 +3,22 @@
 #include <commctrl.h>
 #include <objidl.h>
 
-// Behind the headers that it needs.
+// After the header that it needs.
 #include <gdiplus.h>
 
-#include "common/app.h"
-#include "toolkit/win32/win32_text.h"
-#include "toolkit/win32/win32_window.h"
+#include "common/system/app.h"
+#include "toolkit/shared/shown_limits.h"
+#include "win32_fonts.h"
+#include "win32_screen.h"
+#include "win32_text.h"
+#include "win32_window.h"
 
 namespace termvik {
 
 namespace {
 
 // Another program can hold the clipboard for a moment: how often to try, and how long to wait.
-constexpr int kClipboardTries = 10;
+constexpr int kClipboardTries = 100;
 constexpr DWORD kClipboardWait = 20;  // milliseconds
 
 bool openClipboard(HWND owner) {
@@ -26,15 +29,38 @@ bool openClipboard(HWND owner) {
   return false;
 }
 
-// A copy of a text, with a 0 behind it, in memory that the clipboard takes over; null when there is
-// none.
-HGLOBAL copyForClipboard(const std::wstring& text) {
+// Puts a copy of the text, with a 0 after it, onto the open clipboard, which takes the memory over.
+bool giveToClipboard(const std::wstring& text) {
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(wchar_t));
-  if (memory == nullptr) return nullptr;
+  if (memory == nullptr) return false;
   auto* const copy = static_cast<wchar_t*>(GlobalLock(memory));
   copy[text.copy(copy, text.size())] = L'\0';
   GlobalUnlock(memory);
-  return memory;
+  if (EmptyClipboard() != 0 && SetClipboardData(CF_UNICODETEXT, memory) != nullptr) return true;
+  GlobalFree(memory);
+  return false;
+}
+
+// In pixels at the usual resolution: what a message box has around its text at the most, and the
+// least width at which it breaks the lines of its text.
+constexpr int kAroundMessage = 150;
+constexpr int kMessageWidth = 240;
+
+// Whether a message box with that text has its button on the screen.
+bool fitsScreen(TextView text, HWND owner) {
+  const int dpi = dpiOf(owner);
+  const LOGFONTW design = messageFont(dpi);
+  const Font font(CreateFontIndirectW(&design));
+  const HDC context = GetDC(nullptr);
+  const HGDIOBJ before = SelectObject(context, font.get());
+  RECT place{0, 0, MulDiv(kMessageWidth, dpi, kUsualDpi), 0};
+  DrawTextW(context, shownText(text).c_str(), -1, &place,
+            DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
+  SelectObject(context, before);
+  ReleaseDC(nullptr, context);
+  const SIZE screen = screenSize(owner);
+  const int around = MulDiv(kAroundMessage, dpi, kUsualDpi);
+  return place.right <= screen.cx - around && place.bottom <= screen.cy - around;
 }
 
 }  // namespace
@@ -64,15 +90,18 @@ void Win32Toolkit::MsgBox(TextView prompt) {
   for (const Win32Window* window : open_) {
     if (IsWindowVisible(window->hwnd()) != 0) owner = window->hwnd();
   }
-  MessageBoxW(owner, shownText(prompt).c_str(), wide(kProgramName).c_str(), MB_OK);
+  // Without an owner, too, no window of the program takes input meanwhile.
+  constexpr UINT kHow = MB_OK | MB_TASKMODAL;
+  const Text shown =
+      messageThatFits(prompt, [owner](TextView text) { return fitsScreen(text, owner); });
+  MessageBoxW(owner, shownText(shown).c_str(), wide(kProgramName).c_str(), kHow);
 }
 
-void Win32Toolkit::setClipboardText(TextView text) {
-  if (!openClipboard(open_.empty() ? nullptr : open_.front()->hwnd())) return;
-  EmptyClipboard();
-  const HGLOBAL copy = copyForClipboard(shownText(text));
-  if (copy != nullptr && SetClipboardData(CF_UNICODETEXT, copy) == nullptr) GlobalFree(copy);
+bool Win32Toolkit::setClipboardText(TextView text) {
+  if (!openClipboard(open_.empty() ? nullptr : open_.front()->hwnd())) return false;
+  const bool isThere = giveToClipboard(shownText(text));
   CloseClipboard();
+  return isThere;
 }
 
 void Win32Toolkit::handleMessages(const std::function<bool()>& isOver) const {

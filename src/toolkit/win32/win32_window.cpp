@@ -1,14 +1,13 @@
-#include "toolkit/win32/win32_window.h"
+#include "win32_window.h"
 
 #include <algorithm>
 #include <commctrl.h>
 #include <utility>
 
-#include "toolkit/win32/win32_names.h"
-#include "toolkit/win32/win32_resources.h"
-#include "toolkit/win32/win32_screen.h"
-#include "toolkit/win32/win32_text.h"
 #include "toolkit/win32/win32_toolkit.h"
+#include "win32_names.h"
+#include "win32_screen.h"
+#include "win32_text.h"
 
 namespace termvik {
 
@@ -16,10 +15,8 @@ namespace {
 
 constexpr const wchar_t* kClassName = L"TermvikWindow";
 
-HICON icon(int widthMetric, int heightMetric) {
-  return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(TERMVIK_ICON),
-                                       IMAGE_ICON, GetSystemMetrics(widthMetric),
-                                       GetSystemMetrics(heightMetric), LR_DEFAULTCOLOR));
+POINT pointOf(LPARAM mouse) {
+  return {static_cast<short>(LOWORD(mouse)), static_cast<short>(HIWORD(mouse))};
 }
 
 }  // namespace
@@ -29,8 +26,6 @@ void Win32Window::registerClass() {
   kind.cbSize = sizeof kind;
   kind.lpfnWndProc = &procedure;
   kind.hInstance = GetModuleHandleW(nullptr);
-  kind.hIcon = icon(SM_CXICON, SM_CYICON);
-  kind.hIconSm = icon(SM_CXSMICON, SM_CYSMICON);
   kind.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   kind.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   kind.lpszClassName = kClassName;
@@ -42,6 +37,7 @@ Win32Window::Win32Window(Win32Toolkit& toolkit, const Collation& collation,
     : Window(design), toolkit_(toolkit) {
   createWindow();
   dpi_ = dpiOf(hwnd_);
+  icons_ = std::make_unique<Win32Icons>(hwnd_, dpi_);
   addControls(collation);
   giveClientSize();
   toolkit_.opened(*this);
@@ -50,23 +46,28 @@ Win32Window::Win32Window(Win32Toolkit& toolkit, const Collation& collation,
 Win32Window::~Win32Window() {
   Win32Window::Unload();
   for (const auto& control : controls()) {
-    if (!control->design().accessibleName.empty()) takeSpokenName(win32Shown(*control).shown());
+    if (!control->design().accessibleName.empty()) takeSpokenName(win32Widget(*control).handle());
   }
   DestroyWindow(hwnd_);
 }
 
-// At a place that the system chooses; a window without a title bar begins on the screen that the
-// program is on.
+// At a place that the system chooses; a window without a title bar belongs to the one that is open,
+// stays in front of it and begins on its screen.
 void Win32Window::createWindow() {
   RECT place{CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT};
   DWORD style = WS_OVERLAPPEDWINDOW;
+  HWND owner = nullptr;
   if (!design().hasTitleBar) {
     style = WS_POPUP;
     place = {};
-    if (!toolkit_.openWindows().empty()) place = toolkit_.openWindows().back()->now_.pixels;
+    if (!toolkit_.openWindows().empty()) {
+      const Win32Window& opener = *toolkit_.openWindows().back();
+      owner = opener.hwnd_;
+      place = toRect(opener.place_.pixels());
+    }
   }
   CreateWindowExW(0, kClassName, wide(design().caption).c_str(), style | WS_CLIPCHILDREN,
-                  place.left, place.top, place.right, place.bottom, nullptr, makeMenu(),
+                  place.left, place.top, place.right, place.bottom, owner, makeMenu(),
                   GetModuleHandleW(nullptr), this);
 }
 
@@ -99,11 +100,11 @@ std::optional<LRESULT> Win32Window::handleControls(UINT message, WPARAM wParam, 
       auto& header = *reinterpret_cast<NMHDR*>(lParam);
       Control* control = controlOf(header.hwndFrom);
       if (control == nullptr) return std::nullopt;
-      return win32Shown(*control).reports(header);
+      return win32Widget(*control).reports(header);
     }
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-      if (Control* control = controlOf(item.hwndItem)) win32Shown(*control).draw(item);
+      if (Control* control = controlOf(item.hwndItem)) win32Widget(*control).draw(item);
       return TRUE;
     }
     case WM_CTLCOLORSTATIC:
@@ -126,7 +127,10 @@ std::optional<LRESULT> Win32Window::handleControls(UINT message, WPARAM wParam, 
 std::optional<LRESULT> Win32Window::handleUser(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_LBUTTONDOWN:
-      userClicksAt({static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))});
+      if (isBareAt(pointOf(lParam))) SetCapture(hwnd_);  // so that the release comes here too
+      return 0;
+    case WM_LBUTTONUP:
+      if (GetCapture() == hwnd_) userReleasesAt(pointOf(lParam));
       return 0;
     case WM_SETFOCUS:
       focusControl();
@@ -135,7 +139,7 @@ std::optional<LRESULT> Win32Window::handleUser(UINT message, WPARAM wParam, LPAR
       if (LOWORD(wParam) == WA_INACTIVE) userLeaves();
       return std::nullopt;
     case WM_CLOSE:
-      userCloses();
+      if (IsWindowEnabled(hwnd_) != 0) userCloses();  // not while a modal box is open
       return 0;
     case WM_ENDSESSION:  // no message follows
       if (wParam != 0) userCloses();
@@ -146,11 +150,11 @@ std::optional<LRESULT> Win32Window::handleUser(UINT message, WPARAM wParam, LPAR
       return 0;
     case WM_SYSCOLORCHANGE:
       for (const auto& control : controls()) {
-        SendMessageW(win32Shown(*control).shown(), message, wParam, lParam);
+        SendMessageW(win32Widget(*control).handle(), message, wParam, lParam);
       }
       return std::nullopt;
     case WM_SETTINGCHANGE:
-      applyFonts();
+      if (fonts_->areStale()) applyFonts();
       return std::nullopt;
     default:
       return std::nullopt;
@@ -175,15 +179,17 @@ std::optional<LRESULT> Win32Window::handlePlace(UINT message, WPARAM wParam, LPA
 }
 
 void Win32Window::command(WPARAM wParam, LPARAM lParam) {
+  if (IsWindowEnabled(hwnd_) == 0)
+    return;  // another program can send one while a modal box is open
   const UINT id = LOWORD(wParam);
   Control* control = controlOf(reinterpret_cast<HWND>(lParam));
   if (control != nullptr) {
-    win32Shown(*control).reports(HIWORD(wParam));
+    win32Widget(*control).reports(HIWORD(wParam));
   } else if (MenuItem* item = menuItemOf(id)) {
     item->userChooses();
   } else if (id == IDCANCEL) {  // Esc
     control = controlWith(&ControlDesign::isCancel);
-    if (control != nullptr) win32Shown(*control).reports(BN_CLICKED);
+    if (control != nullptr) win32Widget(*control).reports(BN_CLICKED);
   }
 }
 
@@ -192,13 +198,20 @@ HWND Win32Window::defaultButton() const {
   Control* focused = controlOf(GetFocus());
   const bool isButton = dynamic_cast<Win32CommandButton*>(focused) != nullptr;
   Control* button = isButton ? focused : controlWith(&ControlDesign::isDefault);
-  return button != nullptr ? win32Shown(*button).shown() : nullptr;
+  return button != nullptr ? win32Widget(*button).handle() : nullptr;
 }
 
-// Clicks on labels, pictures and frames come here too, and so do those on what is switched off.
-void Win32Window::userClicksAt(POINT position) const {
+void Win32Window::userReleasesAt(POINT position) const {
+  ReleaseCapture();
+  if (isBareAt(position) && open_ && Click) Click();
+}
+
+// The mouse comes to the window also where a label, a picture, a frame or something that is
+// switched off lies. A line is no control: it parts the bare surface.
+bool Win32Window::isBareAt(POINT position) const {
   const HWND at = ChildWindowFromPointEx(hwnd_, position, CWP_SKIPINVISIBLE);
-  if (IsWindowEnabled(at) != 0 && open_ && Click) Click();
+  const Control* control = controlOf(at);
+  return at == hwnd_ || (control != nullptr && control->design().kind == ControlKind::Line);
 }
 
 void Win32Window::userLeaves() {
@@ -234,7 +247,6 @@ void Win32Window::ShowModal() {
     if (other == this || IsWindowEnabled(other->hwnd()) == 0) continue;
     barred_.push_back(other->hwnd());
     EnableWindow(other->hwnd(), FALSE);
-    SetWindowLongPtrW(hwnd_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(other->hwnd()));
   }
   Show();
   toolkit_.handleMessages([this] { return !open_; });

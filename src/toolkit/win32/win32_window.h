@@ -6,9 +6,11 @@
 #include <vector>
 #include <windows.h>
 
-#include "common/toolkit.h"
-#include "toolkit/win32/win32_controls.h"
-#include "toolkit/win32/win32_fonts.h"
+#include "common/toolkit/toolkit.h"
+#include "toolkit/shared/known_place.h"
+#include "win32_controls.h"
+#include "win32_fonts.h"
+#include "win32_icons.h"
 
 namespace termvik {
 
@@ -22,7 +24,7 @@ class Win32Window : public Window {
   Win32Window(Win32Toolkit& toolkit, const Collation& collation, const WindowDesign& design);
   ~Win32Window() override;
 
-  Place outerPlace() const override { return now_.outer; }
+  Place outerPlace() const override { return place_.outer(); }
   void setOuterPlace(const Place& place) override;
   WindowState State() const override;
   void maximise() override;
@@ -42,7 +44,7 @@ class Win32Window : public Window {
 
   // Brings what shows a control to the control's place, at the end of Resize if one is being
   // raised.
-  void placeControl(Control& control, HWND shown);
+  void placeControl(Control& control, HWND handle);
 
   // Tab reaches the option that is on, or the first of its group when none is.
   bool isTabStop(const OptionButton& option) const;
@@ -58,7 +60,8 @@ class Win32Window : public Window {
   std::optional<LRESULT> handlePlace(UINT message, WPARAM wParam, LPARAM lParam);
   void command(WPARAM wParam, LPARAM lParam);
   HWND defaultButton() const;
-  void userClicksAt(POINT position) const;
+  void userReleasesAt(POINT position) const;
+  bool isBareAt(POINT position) const;
   void userLeaves();
   void focusControl() const;
   void paintBorder() const;
@@ -75,15 +78,15 @@ class Win32Window : public Window {
 
   // win32_window_place.cpp
   void giveClientSize();
-  void placeWindow();
-  RECT outerPixels() const;
+  PixelRect placeWindow(const Place& place);
+  PixelRect outerPixels() const;
   void readPlace();
-  void takePlace(const RECT& pixels);
   void raiseResize();
   void resolutionChanges(int dpi, const RECT& suggested);
   void applyFonts();
-  RECT pixelsOf(const Control& control) const;
-  void keepInside(RECT& pixels) const;
+  PixelRect pixelsOf(const Control& control) const;
+  void keepInside(PixelRect& pixels) const;
+  void keepOffFrames(PixelRect& pixels) const;
   void placeMoved();
   static void freeOfLimits(MINMAXINFO& limits);
 
@@ -91,16 +94,12 @@ class Win32Window : public Window {
   HWND hwnd_ = nullptr;
   int dpi_ = 0;
   std::unique_ptr<Win32Fonts> fonts_;
+  std::unique_ptr<Win32Icons> icons_;
   std::vector<MenuItem*> menuItems_;  // in the order of the menu bar
   HWND lastFocus_ = nullptr;          // when the window was last active
   std::vector<HWND> barred_;          // windows that take no input while this one is modal
 
-  struct KnownPlace {
-    Place outer;       // in force, as the program knows it
-    RECT pixels = {};  // the outer rectangle that `outer` stands for
-  };
-  KnownPlace now_;
-  KnownPlace normal_;  // the last one in the normal state
+  KnownPlace place_;
   bool maximiseAtShow_ = false;
   bool placing_ = false;  // the program places the window, not the user
   bool open_ = true;

@@ -1,13 +1,13 @@
 // The menu and the controls of a window, made from its design.
 #include <algorithm>
 
-#include "toolkit/win32/win32_article_box.h"
-#include "toolkit/win32/win32_list_box.h"
-#include "toolkit/win32/win32_names.h"
-#include "toolkit/win32/win32_picture.h"
-#include "toolkit/win32/win32_search_box.h"
-#include "toolkit/win32/win32_text.h"
-#include "toolkit/win32/win32_window.h"
+#include "win32_edit_box.h"
+#include "win32_list_box.h"
+#include "win32_names.h"
+#include "win32_picture.h"
+#include "win32_text.h"
+#include "win32_text_box.h"
+#include "win32_window.h"
 
 namespace termvik {
 
@@ -51,7 +51,7 @@ void Win32Window::addControls(const Collation& collation) {
   for (const ControlDesign& control : design().controls) {
     addControl(makeControl(control, collation));
     if (control.accessibleName.empty()) continue;
-    giveSpokenName(win32Shown(*controls().back()).shown(), control.accessibleName);
+    giveSpokenName(win32Widget(*controls().back()).handle(), control.accessibleName);
   }
   for (const auto& control : controls()) {
     if (auto* option = dynamic_cast<Win32OptionButton*>(control.get())) option->showValue();
@@ -63,9 +63,10 @@ void Win32Window::addControls(const Collation& collation) {
 std::unique_ptr<Control> Win32Window::makeControl(const ControlDesign& design,
                                                   const Collation& collation) {
   switch (design.kind) {
+    case ControlKind::EditBox:
+      return std::make_unique<Win32EditBox>(*this, design);
     case ControlKind::TextBox:
-      if (design.multiLine) return std::make_unique<Win32ArticleBox>(*this, design);
-      return std::make_unique<Win32SearchBox>(*this, design);
+      return std::make_unique<Win32TextBox>(*this, design);
     case ControlKind::ListBox:
       return std::make_unique<Win32ListBox>(*this, design, collation);
     case ControlKind::OptionButton:
@@ -86,11 +87,11 @@ std::unique_ptr<Control> Win32Window::makeControl(const ControlDesign& design,
 void Win32Window::putDecorationsBehind() const {
   HWND lastInput = HWND_TOP;
   for (const auto& control : controls()) {
-    if (!isDecoration(control->design())) lastInput = win32Shown(*control).shown();
+    if (!isDecoration(control->design())) lastInput = win32Widget(*control).handle();
   }
   for (const auto& control : controls()) {
     if (!isDecoration(control->design())) continue;
-    SetWindowPos(win32Shown(*control).shown(), lastInput, 0, 0, 0, 0,
+    SetWindowPos(win32Widget(*control).handle(), lastInput, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
   }
 }
@@ -126,7 +127,7 @@ MenuItem* Win32Window::menuItemOf(UINT id) const {
 
 Control* Win32Window::controlOf(HWND child) const {
   for (const auto& control : controls()) {
-    if (win32Shown(*control).shown() == child) return control.get();
+    if (win32Widget(*control).handle() == child) return control.get();
   }
   return nullptr;
 }

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/win32/win32_screen.h"
-#include "toolkit/win32/win32_text.h"
-#include "toolkit/win32/win32_window.h"
+#include "win32_screen.h"
+#include "win32_text.h"
+#include "win32_window.h"
 
 namespace termvik {
 
@@ -17,8 +17,8 @@ bool scrolls(const ControlDesign& design) {
   return design.scrolls || design.kind == ControlKind::ListBox;
 }
 
-void bringTo(HWND hwnd, const RECT& place) {
-  SetWindowPos(hwnd, nullptr, place.left, place.top, widthOf(place), heightOf(place), kOnlyPlace);
+void bringTo(HWND hwnd, const PixelRect& place) {
+  SetWindowPos(hwnd, nullptr, place.left, place.top, place.width(), place.height(), kOnlyPlace);
 }
 
 }  // namespace
@@ -29,72 +29,52 @@ void Win32Window::giveClientSize() {
   const int height = toPixels(design().clientHeight, dpi_);
   // Twice, since a menu bar can take another number of lines at another width.
   for (int i = 0; i < 2; ++i) {
-    RECT outer = outerPixels();
+    PixelRect outer = outerPixels();
     RECT client;
     GetClientRect(hwnd_, &client);
     outer.right += width - widthOf(client);
     outer.bottom += height - heightOf(client);
     bringTo(hwnd_, outer);
   }
-  takePlace(outerPixels());
+  place_.take(outerPixels(), true, dpi_);
 }
 
 void Win32Window::setOuterPlace(const Place& place) {
-  const bool resized = place.width != now_.outer.width || place.height != now_.outer.height;
-  now_.outer = place;
-  placeWindow();
-  if (State() == WindowState::Normal) normal_ = now_;
+  const bool resized = place.width != Width() || place.height != Height();
+  place_.set(place, placeWindow(place), State() == WindowState::Normal);
   if (resized) raiseResize();
 }
 
-void Win32Window::placeWindow() {
-  const RECT outer = toPixels(now_.outer, dpi_);
+// Gives the pixels at which the window stands then.
+PixelRect Win32Window::placeWindow(const Place& place) {
+  PixelRect outer = toPixels(place, dpi_);
   placing_ = true;
   if (IsIconic(hwnd_) != 0) {  // the place that it goes back to
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     GetWindowPlacement(hwnd_, &placement);
-    placement.rcNormalPosition = outer;
+    placement.rcNormalPosition = toRect(outer);
     SetWindowPlacement(hwnd_, &placement);
-    now_.pixels = outer;
   } else {
     bringTo(hwnd_, outer);
-    now_.pixels = outerPixels();
+    outer = outerPixels();
   }
   placing_ = false;
+  return outer;
 }
 
-RECT Win32Window::outerPixels() const {
+PixelRect Win32Window::outerPixels() const {
   RECT outer;
   GetWindowRect(hwnd_, &outer);
-  return outer;
+  return fromRect(outer);
 }
 
 // Takes over what the user or the system has made of the window's place.
 void Win32Window::readPlace() {
   if (placing_ || !open_ || IsWindowVisible(hwnd_) == 0 || IsIconic(hwnd_) != 0) return;
-  const RECT now = outerPixels();
-  const RECT before = now_.pixels;
-  const bool isNormal = State() == WindowState::Normal;
-  if (isNormal && EqualRect(&now, &normal_.pixels) != 0) {
-    now_ = normal_;  // back from another state, or not moved at all
-  } else {
-    takePlace(now);
-  }
-  if (widthOf(now) != widthOf(before) || heightOf(now) != heightOf(before)) raiseResize();
-}
-
-// Each measure by itself: what has not changed keeps the fraction that the program gave it.
-void Win32Window::takePlace(const RECT& pixels) {
-  const RECT before = std::exchange(now_.pixels, pixels);
-  const auto take = [this](float& measure, long now, long then) {
-    if (now != then) measure = toTwips(now, dpi_);
-  };
-  take(now_.outer.left, pixels.left, before.left);
-  take(now_.outer.top, pixels.top, before.top);
-  take(now_.outer.width, widthOf(pixels), widthOf(before));
-  take(now_.outer.height, heightOf(pixels), heightOf(before));
-  if (State() == WindowState::Normal) normal_ = now_;
+  const PixelSize before = place_.pixels().size();
+  place_.take(outerPixels(), State() == WindowState::Normal, dpi_);
+  if (place_.pixels().size() != before) raiseResize();
 }
 
 WindowState Win32Window::State() const {
@@ -127,67 +107,78 @@ void Win32Window::raiseResize() {
 void Win32Window::placeMoved() {
   HDWP step = BeginDeferWindowPos(static_cast<int>(moved_.size()));
   for (Control* control : std::exchange(moved_, {})) {
-    const RECT place = pixelsOf(*control);
-    step = DeferWindowPos(step, win32Shown(*control).shown(), nullptr, place.left, place.top,
-                          widthOf(place), heightOf(place), kOnlyPlace);
+    const PixelRect place = pixelsOf(*control);
+    step = DeferWindowPos(step, win32Widget(*control).handle(), nullptr, place.left, place.top,
+                          place.width(), place.height(), kOnlyPlace);
   }
   EndDeferWindowPos(step);
 }
 
-void Win32Window::placeControl(Control& control, HWND shown) {
+void Win32Window::placeControl(Control& control, HWND handle) {
   if (resizing_) {
     if (std::find(moved_.begin(), moved_.end(), &control) == moved_.end()) {
       moved_.push_back(&control);
     }
   } else {
-    bringTo(shown, pixelsOf(control));
+    bringTo(handle, pixelsOf(control));
   }
   // What a frame holds goes with it.
   for (const auto& other : controls()) {
     if (other->design().container != control.design().name) continue;
-    placeControl(*other, win32Shown(*other).shown());
+    placeControl(*other, win32Widget(*other).handle());
   }
 }
 
-RECT Win32Window::pixelsOf(const Control& shown) const {
+PixelRect Win32Window::pixelsOf(const Control& shown) const {
   Place place = shown.place();
   if (!shown.design().container.empty()) {
     const Control& container = control(shown.design().container);
     place.left += container.Left();
     place.top += container.Top();
   }
-  RECT pixels = toPixels(place, dpi_);
+  PixelRect pixels = toPixels(place, dpi_);
   if (shown.design().kind == ControlKind::Line) {
     pixels.bottom = std::max(pixels.bottom, pixels.top + kLeastLineHeight);
   }
   if (scrolls(shown.design())) keepInside(pixels);
+  if (shown.design().kind == ControlKind::CheckBox) keepOffFrames(pixels);
   return pixels;
 }
 
 // The frame of a window, and a menu bar of two lines, can leave less room than the layout reckons
 // with, which counts from the outer edges: what scrolls ends at the inner ones, so that its scroll
 // bar and its last row are in sight.
-void Win32Window::keepInside(RECT& pixels) const {
+void Win32Window::keepInside(PixelRect& pixels) const {
   RECT client;
   GetClientRect(hwnd_, &client);
-  pixels.right = std::max(pixels.left, std::min(pixels.right, client.right));
-  pixels.bottom = std::max(pixels.top, std::min(pixels.bottom, client.bottom));
+  const PixelRect inside = fromRect(client);
+  pixels.right = std::max(pixels.left, std::min(pixels.right, inside.right));
+  pixels.bottom = std::max(pixels.top, std::min(pixels.bottom, inside.bottom));
+}
+
+// The right end of a check box is bare, and would lie over the line of a frame that begins there.
+void Win32Window::keepOffFrames(PixelRect& pixels) const {
+  for (const auto& control : controls()) {
+    if (control->design().kind != ControlKind::Frame) continue;
+    const PixelRect frame = pixelsOf(*control);
+    const bool isBeside =
+        pixels.left < frame.left && pixels.top < frame.bottom && frame.top < pixels.bottom;
+    if (isBeside) pixels.right = std::min(pixels.right, frame.left);
+  }
 }
 
 // The window has come to a screen of another resolution, or the user has changed the screen's.
 void Win32Window::resolutionChanges(int dpi, const RECT& suggested) {
   dpi_ = dpi;
   const bool byProgram = std::exchange(placing_, true);
-  bringTo(hwnd_, suggested);
+  bringTo(hwnd_, fromRect(suggested));
   placing_ = byProgram;
+  icons_ = std::make_unique<Win32Icons>(hwnd_, dpi_);
   applyFonts();
-  for (const auto& control : controls()) placeControl(*control, win32Shown(*control).shown());
-  if (byProgram) return;              // what the program has written stands
-  const RECT pixels = outerPixels();  // other twips now, all of them
-  now_ = {{toTwips(pixels.left, dpi), toTwips(pixels.top, dpi), toTwips(widthOf(pixels), dpi),
-           toTwips(heightOf(pixels), dpi)},
-          pixels};
-  if (State() == WindowState::Normal) normal_ = now_;
+  for (const auto& control : controls()) placeControl(*control, win32Widget(*control).handle());
+  if (byProgram) return;                   // what the program has written stands
+  const PixelRect pixels = outerPixels();  // other twips now, all of them
+  place_.set(toTwips(pixels, dpi), pixels, State() == WindowState::Normal);
   raiseResize();
 }
 
@@ -195,7 +186,7 @@ void Win32Window::applyFonts() {
   auto fonts = std::make_unique<Win32Fonts>(design(), dpi_);
   for (const auto& control : controls()) {
     const HFONT font = fonts->fontFor(control->design());
-    SendMessageW(win32Shown(*control).shown(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    SendMessageW(win32Widget(*control).handle(), WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
   }
   fonts_ = std::move(fonts);
 }

@@ -1,0 +1,37 @@
+// The program's modules, put together around one toolkit.
+#pragma once
+
+#include "common/collation/collation.h"
+#include "common/system/app.h"
+#include "common/toolkit/toolkit.h"
+#include "glossary/def_words.h"
+#include "lookup/frm_glossary.h"
+#include "settings/parameters.h"
+
+namespace termvik {
+
+class Program {
+ public:
+  Program(Toolkit& toolkit, const Collation& collation, const App& app)
+      : words_(
+            collation, app.Path, [&toolkit](TextView prompt) { toolkit.MsgBox(prompt); },
+            *app.files),
+        settings_(toolkit, app),
+        form_({toolkit, app, words_, settings_}) {}
+
+  // Loads the main window and shows it.
+  void start() {
+    form_.Form_Load();
+    form_.window().Show();
+  }
+
+  frmGlossary& form() { return form_; }
+  const defWords& words() const { return words_; }
+
+ private:
+  defWords words_;
+  parameters settings_;
+  frmGlossary form_;
+};
+
+}  // namespace termvik

@@ -1,0 +1,139 @@
+// The main window: the search box, the sorted list of words, the article, and the commands that
+// change what the list holds.
+//
+// The list control is the only index of words, and the controls are the only place where the choice
+// of glossary, the search mode and the search text live.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "common/system/app.h"
+#include "common/system/text.h"
+#include "common/toolkit/toolkit.h"
+#include "glossary/def_words.h"
+#include "settings/parameters.h"
+
+namespace termvik {
+
+class frmGlossary {
+ public:
+  // All of them must outlive the window.
+  struct Surroundings {
+    Toolkit& toolkit;
+    const App& app;
+    defWords& words;
+    parameters& settings;
+  };
+
+  explicit frmGlossary(const Surroundings& surroundings);
+
+  Window& window() { return *window_; }
+
+  // Restores the window's placement and the choice of glossary, reads the glossaries and fills the
+  // list. To be called once, before the window is shown.
+  void Form_Load();
+
+  // The chosen glossary: 0 graphical, 1 tools, 2 both; 2 also when none is chosen.
+  std::int16_t selectedGlossary() const;
+  // Chooses the glossary; any other number than 0, 1 or 2 is ignored.
+  void selectGlossary(std::int16_t Index);
+
+  // Lets go of the glossaries and all that is shown of them, and says why. For what runs out of
+  // memory outside of this window's own handlers, which come here by themselves.
+  void runOutOfMemory();
+
+ private:
+  void connectEvents();
+  template <class... Arguments>
+  auto handler(void (frmGlossary::*handle)(Arguments...));
+  template <class Act>
+  void guard(Act act);
+  void restoreSettings();
+
+  // word_list.cpp
+  void fillWordList();
+  void addEntryWords(std::int32_t entryIndex);
+  template <class Visit>
+  void visitChosenGlossaries(Visit visit);
+  void moveInList(std::int32_t first, std::int32_t last);
+  void showSelectedArticle();
+  void placeSelection();
+  void leaveRoom() const;
+  void lstWords_Click();
+  void optGlossary_Click(std::int16_t Index);
+
+  // incremental_lookup.cpp
+  void txtSearch_Change();
+  void txtSearch_Click();
+  void txtSearch_KeyDown(std::int16_t& keyCode);
+  void txtSearch_KeyPress(std::int16_t& character);
+
+  // full_search.cpp
+  void cmdSearchAgain_Click();
+
+  // commands.cpp
+  void optSearch_Click(std::int16_t Index);
+  void chkShowDoublet_Click();
+  void mnuEnglish_Click();
+  void mnuSwedish_Click();
+  void mnuGerman_Click();
+  void mnuFrance_Click();
+  void changeLanguage(TextView wordType);
+  void languageChanged();
+  void mnuReRead_Click();
+
+  // doublets.cpp
+  void markDoublets();
+  void mnuDoubletList_Click();
+  void copyDoubletsToClipboard();
+
+  // word_list_file.cpp
+  void mnuCreateWordList_Click();
+  std::string wordListBytes() const;
+
+  // layout.cpp
+  void Form_Resize();
+
+  // frm_glossary.cpp
+  void Form_QueryUnload();
+  void mnuAbout_Click();
+  void mnuShowGlossVersions_Click();
+
+  Toolkit& toolkit_;
+  const App& app_;
+  defWords& words_;
+  parameters& settings_;
+  std::unique_ptr<Window> window_;
+
+  EditBox& txtSearch_;
+  ListBox& lstWords_;
+  TextBox& txtArticle_;
+  OptionGroup& optGlossary_;
+  Control& picLogo_;
+  Control& lblInternet_;
+  OptionGroup& optSearch_;
+  CommandButton& cmdSearchAgain_;
+  CheckBox& chkShowDoublet_;
+
+  bool listBusy_ = false;            // moveInList is moving the selection
+  bool formLoaded_ = false;          // Form_Load has come to its end
+  bool searchOptionLocked_ = false;  // languageChanged is switching look-up on
+  bool guarded_ = false;             // a handler is at work that takes care of lost memory
+};
+
+// Cuts a search text into at most ten terms: words between blanks and tabs, and phrases that begin
+// with a double quote and run to the next one. Later terms are dropped.
+std::vector<TextView> splitSearchWords(const Collation& collation, TextView searchText);
+
+// Calls `visit` with the first and the last table index of each chosen glossary.
+template <class Visit>
+void frmGlossary::visitChosenGlossaries(Visit visit) {
+  const bool both = optGlossary_.Value(2);
+  if (both || optGlossary_.Value(0)) visit(words_.gGraphFirst, words_.gGraphLast);
+  if (both || optGlossary_.Value(1)) visit(words_.gToolsFirst, words_.gToolsLast);
+}
+
+}  // namespace termvik

@@ -1,0 +1,22 @@
+// The rule of the search box: which row a search text leads to.
+#pragma once
+
+#include <cstdint>
+
+#include "common/collation/sorted_rows.h"
+
+namespace termvik {
+
+// Rows count from 0.
+struct FoundRows {
+  std::int32_t top = 0;  // the row to select
+  std::int32_t bottom =
+      0;  // the row to bring into view with it; nothing when it is not after `top`
+};
+
+// When the whole text begins some row, the run of rows that begin with it; otherwise the first row
+// that begins with the longest leading part of the text that any row begins with. Row 0 when none
+// does, or the text is empty.
+FoundRows lookUp(const SortedRows& rows, TextView searchText);
+
+}  // namespace termvik

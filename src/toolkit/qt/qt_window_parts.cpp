@@ -1,0 +1,156 @@
+// The menu, the controls and the keys of a window, made from its design.
+#include <QAction>
+#include <QApplication>
+#include <QMenuBar>
+#include <QProxyStyle>
+#include <QShortcut>
+
+#include "qt_edit_box.h"
+#include "qt_fonts.h"
+#include "qt_list_box.h"
+#include "qt_text_box.h"
+#include "qt_window.h"
+
+namespace termvik {
+
+namespace {
+
+// The items of the menu bar stand close enough for all of them to be seen at the design's width.
+class CloseItemsStyle : public QProxyStyle {
+ public:
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    if (metric == PM_MenuBarItemSpacing) return 0;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
+}  // namespace
+
+void QtWindow::addControls(const Collation& collation) {
+  const QFont font = captionFont(design());
+  if (!design().menu.empty()) addMenu(font);
+  for (const ControlDesign& control : design().controls) addControl(control, font, collation);
+  setTabOrder();
+}
+
+void QtWindow::setTabOrder() {
+  QWidget* previous = nullptr;
+  for (const auto& control : controls()) {
+    QWidget* widget = qtWidget(*control);
+    if (widget->focusPolicy() == Qt::NoFocus) continue;
+    if (previous != nullptr) QWidget::setTabOrder(previous, widget);
+    previous = widget;
+  }
+}
+
+void QtWindow::addControl(const ControlDesign& design, const QFont& captionFont,
+                          const Collation& collation) {
+  QWidget* parent = containerOf(design);
+  std::unique_ptr<Control> control;
+  switch (design.kind) {
+    case ControlKind::EditBox:
+      control = std::make_unique<QtEditBox>(parent, design);
+      break;
+    case ControlKind::TextBox:
+      control = std::make_unique<QtTextBox>(parent, design);
+      break;
+    case ControlKind::ListBox:
+      control = std::make_unique<QtListBox>(parent, design, collation);
+      break;
+    case ControlKind::OptionButton:
+      control =
+          std::make_unique<QtOptionButton>(parent, design, groupOf(design), exclusiveGroup(design));
+      break;
+    case ControlKind::CheckBox:
+      control = std::make_unique<QtCheckBox>(parent, design);
+      break;
+    case ControlKind::CommandButton:
+      control = std::make_unique<QtCommandButton>(parent, design);
+      break;
+    default:
+      control = makeQtDecoration(parent, design);
+  }
+  QWidget* widget = qtWidget(*control);
+  widget->setObjectName(toQt(design.name));
+  widget->setFont(design.font.points > 0 ? designedFont(design.font) : captionFont);
+  if (!design.caption.empty()) shrinkToFit(*widget, design);
+  if (!design.accessibleName.empty()) widget->setAccessibleName(toQt(design.accessibleName));
+  if (!design.tabStop) widget->setFocusPolicy(Qt::ClickFocus);
+  applyColours(*widget, design);
+  Window::addControl(std::move(control));
+}
+
+QButtonGroup& QtWindow::exclusiveGroup(const ControlDesign& design) {
+  const QString name = toQt(design.name);
+  if (auto* group = widget_->findChild<QButtonGroup*>(name)) return *group;
+  auto* group = new QButtonGroup(widget_.get());
+  group->setObjectName(name);
+  return *group;
+}
+
+QWidget* QtWindow::containerOf(const ControlDesign& design) const {
+  return design.container.empty() ? widget_->centralWidget() : qtWidget(control(design.container));
+}
+
+void QtWindow::addMenu(const QFont& captionFont) {
+  QMenuBar& bar = *widget_->menuBar();
+  // A global menu bar shows only items that have menus; ours have none.
+  bar.setNativeMenuBar(false);
+  auto* style = new CloseItemsStyle;
+  style->setParent(&bar);
+  bar.setStyle(style);
+  for (const MenuItemDesign& design : design().menu) {
+    MenuItem& item = addMenuItem(design);
+    QAction* action = bar.addAction(toQt(design.caption));
+    action->setObjectName(toQt(design.name));
+    action->setEnabled(design.enabled);
+    QObject::connect(action, &QAction::triggered, action, [this, &item] {
+      leaveMenuBar();
+      item.userChooses();
+    });
+    actions_.emplace_back(&item, action);
+  }
+  fitMenuBar(bar, captionFont, toPixels(design().clientWidth));
+}
+
+void QtWindow::addKeys() {
+  const auto onKey = [this](Qt::Key key, auto act) {
+    QObject::connect(new QShortcut(key, widget_.get()), &QShortcut::activated, widget_.get(), act);
+  };
+  if (!actions_.empty()) {
+    onKey(Qt::Key_F10, [this] { focusMenuBar(); });
+    widget_->menuBar()->installEventFilter(widget_.get());
+  }
+  for (const auto& control : controls()) {
+    auto* button = qobject_cast<QPushButton*>(qtWidget(*control));
+    if (button == nullptr) continue;
+    if (control->design().isDefault) {
+      onKey(Qt::Key_Return, [button] { button->click(); });
+      onKey(Qt::Key_Enter, [button] { button->click(); });
+    }
+    if (control->design().isCancel) onKey(Qt::Key_Escape, [button] { button->click(); });
+  }
+}
+
+void QtWindow::focusMenuBar() {
+  QMenuBar& bar = *widget_->menuBar();
+  if (!bar.hasFocus()) focusBehindMenu_ = QApplication::focusWidget();
+  bar.setFocus(Qt::MenuBarFocusReason);
+  bar.setActiveAction(actions_.front().second);
+}
+
+// The focus goes back to where it was before F10.
+void QtWindow::leaveMenuBar() {
+  widget_->menuBar()->setActiveAction(nullptr);
+  if (widget_->menuBar()->hasFocus() && focusBehindMenu_) focusBehindMenu_->setFocus();
+}
+
+QAction* QtWindow::action(const MenuItem& item) const {
+  for (const auto& [candidate, action] : actions_) {
+    if (candidate == &item) return action;
+  }
+  return nullptr;
+}
+
+}  // namespace termvik

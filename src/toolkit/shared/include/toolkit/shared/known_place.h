@@ -1,0 +1,30 @@
+// Where a window stands, as the program knows it: the outer rectangle to the fraction of a twip
+// that the program wrote, while the screen has whole pixels only.
+#pragma once
+
+#include "toolkit/shared/pixels.h"
+
+namespace termvik {
+
+class KnownPlace {
+ public:
+  const Place& outer() const { return now_.outer; }
+  const PixelRect& pixels() const { return now_.pixels; }
+
+  // The program has written `outer`, and the window stands at `pixels` for it.
+  void set(const Place& outer, const PixelRect& pixels, bool isNormal);
+
+  // The user or the system has brought the window to `pixels`. A measure that has not changed keeps
+  // its fraction, and so do all of a window that comes back from another state.
+  void take(const PixelRect& pixels, bool isNormal, int dpi);
+
+ private:
+  struct Known {
+    Place outer;
+    PixelRect pixels;
+  };
+  Known now_;
+  Known normal_;  // the last one in the normal state
+};
+
+}  // namespace termvik
