@@ -114,4 +114,24 @@ TEST_F(OutOfMemory, GlossariesThatDoNotFitLeaveAnEmptyWindow) {
   }
 }
 
+// Its text is the square of that number, which the memory for it may not outgrow.
+TEST_F(OutOfMemory, AReportOfManyEqualWordsTakesTheMemoryOfItsText) {
+  constexpr std::size_t kWords = 1000;
+  std::string words = "S: bult";
+  for (std::size_t i = 1; i < kWords; ++i) words += "/bult";
+  folder.write("graphword.txt", words);
+  program->start();
+  std::size_t size = 0;
+  hands->seesClipboard = [&size](TextView text) { size = text.size() * sizeof(char16_t); };
+  hands->choose(window(), menu(u"mnuDoubletList"));
+  EXPECT_GT(size, kWords * kWords * sizeof(u"bult"));
+  messages.clear();
+  {
+    const ShortMemory budget = ShortMemory::of(size + size / 10);
+    hands->choose(window(), menu(u"mnuDoubletList"));
+  }
+  EXPECT_EQ(messages.find(kMessage), std::string::npos);
+  folder.write("graphword.txt", kGraph);
+}
+
 }  // namespace termvik::test

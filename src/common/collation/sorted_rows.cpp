@@ -55,7 +55,7 @@ SortedRows::Head SortedRows::makeHead(const std::uint8_t* ranks, std::size_t cou
 SortedRows::Entry SortedRows::makeEntry(std::uint32_t id, TextView text) {
   Row& row = rows_[id];
   row.text = texts_.add(text);
-  row.length = static_cast<std::int32_t>(text.size());
+  row.length = static_cast<std::uint32_t>(text.size());
   row.key = nullptr;
   Entry entry{.id = id};
   makeKey(text, row, entry);
@@ -88,7 +88,7 @@ void SortedRows::makeKey(TextView text, Row& row, Entry& entry) {
 
 TextView SortedRows::textOf(const Entry& entry) const {
   const Row& row = rowOf(entry);
-  return {row.text, static_cast<std::size_t>(row.length)};
+  return {row.text, row.length};
 }
 
 int SortedRows::compare(const Entry& a, const Entry& b) const {

@@ -80,7 +80,7 @@ class SortedRows {
   struct Row {
     const char16_t* text = nullptr;
     const std::uint8_t* key = nullptr;  // ranks, 0, then letters if any has an accent, 0
-    std::int32_t length = 0;            // of the text, in characters
+    std::uint32_t length = 0;           // of the text, in characters
     std::int32_t itemData = 0;
   };
 
