@@ -114,6 +114,7 @@ void SortedRows::setText(std::int32_t row, TextView text) {
   ordered();
   Entry& entry = entries_[static_cast<std::size_t>(row)];
   entry = makeEntry(entry.id & kId, text);
+  entry.id |= kReplaced;
 }
 
 std::vector<SortedRows::Run> SortedRows::equalRuns() const {

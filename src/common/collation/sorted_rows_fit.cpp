@@ -20,7 +20,8 @@ SortedRows::Lead SortedRows::leadOf(const WantedText& text, std::size_t length) 
 
 // One walk for parts of all lengths: a row is looked at only where its ranks are those of a longer
 // part than any row before it begins with. It ends at a row past them, not at one that sorts after
-// the text for an accent's sake: after `nœud` come `noir` and `nom`, which begin with `no`.
+// the text for an accent's sake: after `nœud` come `noir` and `nom`, which begin with `no`. Nor at
+// one whose text was replaced: behind `färg` with a mark may come `färg-balans`.
 SortedRows::Fit SortedRows::bestFit(TextView text, std::int32_t from) const {
   const WantedText wanted(*collation_, text);
   const auto& entries = ordered();
@@ -30,7 +31,8 @@ SortedRows::Fit SortedRows::bestFit(TextView text, std::int32_t from) const {
   for (std::int32_t row = from; row < count() && best.length < text.size(); ++row) {
     const Entry& entry = entries[static_cast<std::size_t>(row)];
     if (!lead.begins(entry) && entry.headHigh != 0) {
-      if (lead.head.isBefore(entry.head().masked(lead.mask))) break;
+      const bool inOrder = (entry.id & kReplaced) == 0;
+      if (inOrder && lead.head.isBefore(entry.head().masked(lead.mask))) break;
       continue;
     }
     if (isPlain(entry) && known.mask != Head{} && known.begins(entry)) continue;

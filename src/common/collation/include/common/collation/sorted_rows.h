@@ -88,11 +88,12 @@ class SortedRows {
   struct Entry {
     std::uint64_t headHigh = 0;
     std::uint32_t headLow = 0;
-    std::uint32_t id = 0;  // index into rows_, with the mark below
+    std::uint32_t id = 0;  // index into rows_, with the marks below
 
     Head head() const { return {headHigh, headLow}; }
   };
-  static constexpr std::uint32_t kId = (1U << 31U) - 1;
+  static constexpr std::uint32_t kId = (1U << 30U) - 1;
+  static constexpr std::uint32_t kReplaced = 1U << 30U;  // stands where its former text belongs
   static constexpr std::uint32_t kPlain = 1U << 31U;  // every character is one letter, no accents
 
   // The ranks that a row must have at its beginning.
