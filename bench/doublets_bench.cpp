@@ -1,5 +1,6 @@
 // Marking the doublets of a filled list, as the program does behind each filling, against one pass
 // over the sorted weights of the same words, each held against its neighbour.
+#include "lookup/doublets.h"
 #include "packed_weights.h"
 #include "sample_program.h"
 #include "side_by_side.h"
@@ -9,23 +10,14 @@ namespace termvik::bench {
 namespace {
 
 constexpr double kLimit = 1.5;
-constexpr TextView kMark = u" ------DUBBLETT-";
-
-void markDoublets(ListBox& list) {
-  for (const auto& [first, last] : list.rows().equalRuns()) {
-    for (std::int32_t row = first; row <= last; ++row) {
-      list.setList(row, Text(list.List(row)).append(kMark));
-    }
-  }
-}
-
 void mark(benchmark::State& state) {
   const auto store = loadedStore(state.range(0));
   SampleProgram window(state.range(0));
   ListBox& list = window.list();
   const PackedWeights weights(swedish(), swedishWords(*store));
   const std::vector<const char*> places = weights.sorted();
-  const Task program{.work = [&] { markDoublets(list); },
+  const auto setText = [&](std::int32_t row, TextView text) { list.setList(row, text); };
+  const Task program{.work = [&] { markDoublets(list.rows(), setText); },
                      .prepare =
                          [&] {
                            list.Clear();

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "folded_bytes.h"
-#include "glossary/full_search.h"
 #include "sample_program.h"
 #include "side_by_side.h"
 
@@ -47,9 +46,7 @@ Text wordWith(TextView part, std::size_t length, defWords& store) {
 std::size_t search(defWords& store, const Terms& texts) {
   const std::vector<TextView> terms(texts.begin(), texts.end());
   std::size_t hits = 0;
-  const auto count = [&hits](std::int32_t, TextView) { ++hits; };
-  visitHits(store, store.gGraphFirst, store.gGraphLast, terms, count);
-  visitHits(store, store.gToolsFirst, store.gToolsLast, terms, count);
+  visitHits(store, kBothGlossaries, terms, [&hits](TextView, std::int32_t) { ++hits; });
   return hits;
 }
 

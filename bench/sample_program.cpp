@@ -8,7 +8,7 @@ namespace termvik::bench {
 namespace {
 
 constexpr ScreenSize kScreen{28800, 16200};
-constexpr std::int16_t kBothGlossaries = 2;
+constexpr std::int16_t kBothIndex = 2;
 
 App appIn(const std::filesystem::path& folder) {
   App app;
@@ -35,7 +35,7 @@ SampleProgram::SampleProgram(std::int64_t entries)
       app_(appIn(sampleFolder(entries))),
       program_(hands_->toolkit(), swedish(), app_) {
   program_.start();
-  choose(u"optGlossary", kBothGlossaries);
+  choose(u"optGlossary", kBothIndex);
 }
 
 void SampleProgram::choose(TextView group, std::int16_t index) {
@@ -46,13 +46,8 @@ void SampleProgram::choose(TextView group, std::int16_t index) {
 }
 
 void fillList(ListBox& list, defWords& store) {
-  for (std::int32_t i = store.gGraphFirst; i <= store.gToolsLast; ++i) {
-    bool getFirst = true;
-    TextView word;
-    while (store.gEntries(i).getGlossaryWord(store.gWordType, getFirst, word)) {
-      list.AddItem(word, i);
-    }
-  }
+  visitWords(store, kBothGlossaries,
+             [&](TextView word, std::int32_t entry) { list.AddItem(word, entry); });
 }
 
 std::vector<TextView> swedishWords(defWords& store) {

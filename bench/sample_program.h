@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/program.h"
+#include "lookup/word_rows.h"
 #include "toolkit/shared/hands.h"
 
 namespace termvik::bench {
@@ -33,6 +34,8 @@ class SampleProgram {
   App app_;
   Program program_;
 };
+
+inline constexpr ChosenGlossaries kBothGlossaries{.graphical = true, .tools = true};
 
 // Fills the list with the store's words as the program does.
 void fillList(ListBox& list, defWords& store);

@@ -1,6 +1,8 @@
 // The rule of the search box, over rows without a window.
-#include "look_up.h"
+#include "lookup/look_up.h"
 
+#include "lookup/doublets.h"
+#include "lookup/word_rows.h"
 #include "support/desk.h"
 
 namespace termvik::test {
@@ -76,18 +78,11 @@ TEST(LookUpRule, ReachesEveryWordThatShips) {
   defWords words(swedish(), TERMVIK_DATA_FOLDER, [](TextView) { FAIL(); });
   words.readGlossaries();
   for (const TextView type : {u"S", u"E", u"D", u"F"}) {
+    words.gWordType = type;
     SortedRows rows(swedish());
-    for (std::int32_t i = words.gGraphFirst; i <= words.gToolsLast; ++i) {
-      const clsWEntry& entry = words.gEntries(i);
-      for (std::int32_t w = 1; w <= entry.entryWordCount(); ++w) {
-        if (swedish().equal(entry.entryType(w), type)) rows.add(entry.entryWord(w), i);
-      }
-    }
-    for (const SortedRows::Run& run : rows.equalRuns()) {
-      for (std::int32_t row = run.first; row <= run.last; ++row) {
-        rows.setText(row, Text(rows.text(row)).append(u" ------DUBBLETT-"));
-      }
-    }
+    visitWords(words, {.graphical = true, .tools = true},
+               [&](TextView word, std::int32_t entry) { rows.add(word, entry); });
+    markDoublets(rows, [&](std::int32_t row, TextView text) { rows.setText(row, text); });
     ASSERT_GT(rows.count(), 2000);
     for (std::int32_t row = 0; row < rows.count(); ++row) {
       const TextView word = rows.text(row).substr(0, rows.text(row).find(u" ------"));

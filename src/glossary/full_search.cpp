@@ -10,7 +10,7 @@ namespace termvik {
 // From hit to hit: to ask each entry on the way would take as long as the search itself
 // (bench/full_search).
 void visitHits(defWords& words, std::int32_t first, std::int32_t last,
-               const std::vector<TextView>& terms, const HitVisitor& visit) {
+               const std::vector<TextView>& terms, const WordVisitor& visit) {
   if (first > last) return;
   const clsWEntry* const begin = &words.gEntries(first);
   const clsWEntry* const end = begin + (last - first + 1);
@@ -25,8 +25,8 @@ void visitHits(defWords& words, std::int32_t first, std::int32_t last,
     if (entry == end) return;
     const auto isHere = [&](TermWalk& walk) { return walk.hit() <= entry->commentText(); };
     const auto hit = std::find_if(walks.begin(), walks.end(), isHere);
-    visit(first + static_cast<std::int32_t>(entry - begin),
-          entry->wordForHit(hit->hit(), words.gWordType));
+    visit(entry->wordForHit(hit->hit(), words.gWordType),
+          first + static_cast<std::int32_t>(entry - begin));
   }
 }
 

@@ -1,8 +1,18 @@
 // The commands that change what the list is made of: search mode, language, doublet marks, reading
-// the files again. The search text stays in its box through all of them.
+// the files again; the search text stays in its box through all of them. And the doublet report.
+#include "lookup/doublets.h"
 #include "lookup/frm_glossary.h"
 
 namespace termvik {
+
+namespace {
+
+constexpr TextView kReportIsThere =
+    u"Dubbletterna finns nu på klippbordet! \r\n"
+    u"Gör ctrl-V i Word för att kopiera dem till ett dokument!";
+constexpr TextView kNoClipboard = u"Could not open the clipboard";
+
+}  // namespace
 
 void frmGlossary::optSearch_Click(std::int16_t Index) {
   if (Index == 1) {
@@ -43,6 +53,11 @@ void frmGlossary::mnuReRead_Click() {
   words_.readGlossaries();
   fillWordList();
   placeSelection();
+}
+
+void frmGlossary::mnuDoubletList_Click() {
+  const bool isThere = toolkit_.setClipboardText(doubletReport(lstWords_.rows(), words_));
+  toolkit_.MsgBox(isThere ? kReportIsThere : kNoClipboard);
 }
 
 }  // namespace termvik

@@ -1,6 +1,4 @@
-// Doublets: words that stand in more than one row of the list. Equal rows lie together in the
-// sorted list, so neighbours are all that has to be compared.
-#include "lookup/frm_glossary.h"
+#include "lookup/doublets.h"
 
 namespace termvik {
 
@@ -9,10 +7,6 @@ namespace {
 constexpr TextView kRowMark = u" ------DUBBLETT-";
 constexpr TextView kReportTitle = u"DUBBLETTER";
 constexpr TextView kReportRule = u"=======================================";
-constexpr TextView kReportIsThere =
-    u"Dubbletterna finns nu på klippbordet! \r\n"
-    u"Gör ctrl-V i Word för att kopiera dem till ett dokument!";
-constexpr TextView kNoClipboard = u"Could not open the clipboard";
 
 // Gives `visit` the report, piece by piece. The rows of an entry whose words are equal follow one
 // another, so its article is made once for all of them.
@@ -34,6 +28,16 @@ void visitReport(const SortedRows& rows, defWords& words, Visit visit) {
   }
 }
 
+}  // namespace
+
+void markDoublets(const SortedRows& rows, const RowChange& change) {
+  for (const auto& [first, last] : rows.equalRuns()) {
+    for (std::int32_t row = first; row <= last; ++row) {
+      change(row, Text(rows.text(row)).append(kRowMark));
+    }
+  }
+}
+
 // Measured first: an entry of many equal words gives its article once for each, and a text of that
 // size must not be in memory twice because it grows.
 Text doubletReport(const SortedRows& rows, defWords& words) {
@@ -43,23 +47,6 @@ Text doubletReport(const SortedRows& rows, defWords& words) {
   report.reserve(size);
   visitReport(rows, words, [&report](TextView piece) { report.append(piece); });
   return report;
-}
-
-}  // namespace
-
-void frmGlossary::markDoublets() {
-  for (const auto& [first, last] : lstWords_.rows().equalRuns()) {
-    for (std::int32_t row = first; row <= last; ++row) {
-      lstWords_.setList(row, Text(lstWords_.List(row)).append(kRowMark));
-    }
-  }
-}
-
-void frmGlossary::mnuDoubletList_Click() { copyDoubletsToClipboard(); }
-
-void frmGlossary::copyDoubletsToClipboard() {
-  const bool isThere = toolkit_.setClipboardText(doubletReport(lstWords_.rows(), words_));
-  toolkit_.MsgBox(isThere ? kReportIsThere : kNoClipboard);
 }
 
 }  // namespace termvik

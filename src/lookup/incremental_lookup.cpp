@@ -1,7 +1,7 @@
 // The search box as the keyboard front of the list: each change of its text selects the row that
 // fits best, and the arrow and page keys move the selection.
-#include "look_up.h"
 #include "lookup/frm_glossary.h"
+#include "lookup/look_up.h"
 
 namespace termvik {
 

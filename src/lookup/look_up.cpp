@@ -1,4 +1,4 @@
-#include "look_up.h"
+#include "lookup/look_up.h"
 
 namespace termvik {
 

@@ -1,10 +1,12 @@
-// The word list and the article: fills the list from the chosen glossaries, moves the selection and
-// shows the selected row's entry.
+// The word list and the article: fills the list with the words of the chosen glossaries or with the
+// hits of a search, moves the selection and shows the selected row's entry.
 #include <algorithm>
 #include <new>
 
 #include "common/system/mathlib.h"
+#include "lookup/doublets.h"
 #include "lookup/frm_glossary.h"
+#include "lookup/search_words.h"
 
 namespace termvik {
 
@@ -19,13 +21,34 @@ void frmGlossary::selectGlossary(std::int16_t Index) {
   if (Index >= 0 && Index <= 2) optGlossary_.setValue(Index, true);
 }
 
+ChosenGlossaries frmGlossary::chosenGlossaries() const {
+  const bool both = optGlossary_.Value(2);
+  return {.graphical = both || optGlossary_.Value(0), .tools = both || optGlossary_.Value(1)};
+}
+
+WordVisitor frmGlossary::addRow() {
+  return [this](TextView word, std::int32_t entry) { lstWords_.AddItem(word, entry); };
+}
+
 void frmGlossary::fillWordList() {
   lstWords_.Clear();
-  visitChosenGlossaries([this](std::int32_t first, std::int32_t last) {
-    for (std::int32_t i = first; i <= last; ++i) addEntryWords(i);
-  });
-  if (chkShowDoublet_.Value() == 1) markDoublets();
+  visitWords(words_, chosenGlossaries(), addRow());
+  if (chkShowDoublet_.Value() == 1) {
+    markDoublets(lstWords_.rows(),
+                 [this](std::int32_t row, TextView text) { lstWords_.setList(row, text); });
+  }
   leaveRoom();
+}
+
+void frmGlossary::cmdSearchAgain_Click() {
+  const Text searchText = txtSearch_.text();
+  const std::vector<TextView> terms = splitSearchWords(words_.collation(), searchText);
+  if (terms.empty()) return;
+  lstWords_.Clear();
+  txtArticle_.setText({});
+  visitHits(words_, chosenGlossaries(), terms, addRow());
+  leaveRoom();
+  moveInList(0, 0);
 }
 
 // Finds out in time whether the window system will have memory for the list: it cannot be told that
@@ -35,14 +58,6 @@ void frmGlossary::leaveRoom() const {
   constexpr std::size_t kEnough = 64U << 20U;
   const auto rows = static_cast<std::size_t>(lstWords_.ListCount());
   ::operator delete(::operator new(std::min(rows * kOfRow, kEnough)));
-}
-
-void frmGlossary::addEntryWords(std::int32_t entryIndex) {
-  bool getFirst = true;
-  TextView word;
-  while (words_.gEntries(entryIndex).getGlossaryWord(words_.gWordType, getFirst, word)) {
-    lstWords_.AddItem(word, entryIndex);
-  }
 }
 
 void frmGlossary::showSelectedArticle() {

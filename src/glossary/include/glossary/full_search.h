@@ -11,14 +11,14 @@
 
 namespace termvik {
 
-// Takes the table index of an entry and the word to list for it.
-using HitVisitor = std::function<void(std::int32_t entryIndex, TextView word)>;
+// Takes a word to list and the table index of its entry.
+using WordVisitor = std::function<void(TextView word, std::int32_t entryIndex)>;
 
 // Visits, rising, each entry from `first` to `last`, all of one glossary, in which one of `terms`
 // occurs. The word to list is the one that has the first such term, or, for a hit in the comment,
 // the entry's first word of `words.gWordType`, or its first word of all. No term is empty for the
 // collation.
 void visitHits(defWords& words, std::int32_t first, std::int32_t last,
-               const std::vector<TextView>& terms, const HitVisitor& visit);
+               const std::vector<TextView>& terms, const WordVisitor& visit);
 
 }  // namespace termvik

@@ -8,12 +8,12 @@
 #include <cstdint>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "common/system/app.h"
 #include "common/system/text.h"
 #include "common/toolkit/toolkit.h"
 #include "glossary/def_words.h"
+#include "lookup/word_rows.h"
 #include "settings/parameters.h"
 
 namespace termvik {
@@ -55,9 +55,9 @@ class frmGlossary {
 
   // word_list.cpp
   void fillWordList();
-  void addEntryWords(std::int32_t entryIndex);
-  template <class Visit>
-  void visitChosenGlossaries(Visit visit);
+  void cmdSearchAgain_Click();
+  WordVisitor addRow();
+  ChosenGlossaries chosenGlossaries() const;
   void moveInList(std::int32_t first, std::int32_t last);
   void showSelectedArticle();
   void placeSelection();
@@ -71,9 +71,6 @@ class frmGlossary {
   void txtSearch_KeyDown(std::int16_t& keyCode);
   void txtSearch_KeyPress(std::int16_t& character);
 
-  // full_search.cpp
-  void cmdSearchAgain_Click();
-
   // commands.cpp
   void optSearch_Click(std::int16_t Index);
   void chkShowDoublet_Click();
@@ -84,11 +81,7 @@ class frmGlossary {
   void changeLanguage(TextView wordType);
   void languageChanged();
   void mnuReRead_Click();
-
-  // doublets.cpp
-  void markDoublets();
   void mnuDoubletList_Click();
-  void copyDoubletsToClipboard();
 
   // word_list_file.cpp
   void mnuCreateWordList_Click();
@@ -123,17 +116,5 @@ class frmGlossary {
   bool searchOptionLocked_ = false;  // languageChanged is switching look-up on
   bool guarded_ = false;             // a handler is at work that takes care of lost memory
 };
-
-// Cuts a search text into at most ten terms: words between blanks and tabs, and phrases that begin
-// with a double quote and run to the next one. Later terms are dropped.
-std::vector<TextView> splitSearchWords(const Collation& collation, TextView searchText);
-
-// Calls `visit` with the first and the last table index of each chosen glossary.
-template <class Visit>
-void frmGlossary::visitChosenGlossaries(Visit visit) {
-  const bool both = optGlossary_.Value(2);
-  if (both || optGlossary_.Value(0)) visit(words_.gGraphFirst, words_.gGraphLast);
-  if (both || optGlossary_.Value(1)) visit(words_.gToolsFirst, words_.gToolsLast);
-}
 
 }  // namespace termvik
