@@ -18,6 +18,15 @@ TEST_F(LookUp, KeepsTheArrowsAndEnterFromTheBox) {
   }
 }
 
+TEST_F(LookUp, SaysOnlySoMuchOfALongRowAndArticle) {
+  open("S: a" + std::string(100'000, 'x') + "/C: " + std::string(100'000, 'y'));
+  std::size_t said = 0;
+  window().Said = [&](TextView utterance) { said = utterance.size(); };
+  play("type a");
+  EXPECT_GT(said, 1000U);
+  EXPECT_LT(said, 10'000U);
+}
+
 TEST(SearchTerms, AreWordsAndQuotedPhrases) {
   const std::string full(100000, 'x');
   expectTable(  // ¨ stands for a quote, · for a blank

@@ -2,6 +2,7 @@
 // the files again; the search text stays in its box through all of them. And the doublet report.
 #include "lookup/doublets.h"
 #include "lookup/frm_glossary.h"
+#include "spoken.h"
 
 namespace termvik {
 
@@ -15,25 +16,31 @@ constexpr TextView kNoClipboard = u"Could not open the clipboard";
 }  // namespace
 
 void frmGlossary::optSearch_Click(std::int16_t Index) {
+  if (searchOptionLocked_) return;
   if (Index == 1) {
-    cmdSearchAgain_Click();
+    searchAgain();
     cmdSearchAgain_.setEnabled(true);
-  } else if (!searchOptionLocked_) {
+  } else {
     languageChanged();
     cmdSearchAgain_.setEnabled(false);
   }
+  sayChange(spoken::chosen(captionOf(u"optSearch", Index)));
 }
 
-void frmGlossary::chkShowDoublet_Click() { languageChanged(); }
+void frmGlossary::chkShowDoublet_Click() {
+  languageChanged();
+  sayChange(spoken::ticked(chkShowDoublet_.design().caption, chkShowDoublet_.Value() == 1));
+}
 
-void frmGlossary::mnuEnglish_Click() { changeLanguage(u"E"); }
-void frmGlossary::mnuSwedish_Click() { changeLanguage(u"S"); }
-void frmGlossary::mnuGerman_Click() { changeLanguage(u"D"); }
-void frmGlossary::mnuFrance_Click() { changeLanguage(u"F"); }
+void frmGlossary::mnuEnglish_Click() { changeLanguage(u"E", u"mnuEnglish"); }
+void frmGlossary::mnuSwedish_Click() { changeLanguage(u"S", u"mnuSwedish"); }
+void frmGlossary::mnuGerman_Click() { changeLanguage(u"D", u"mnuGerman"); }
+void frmGlossary::mnuFrance_Click() { changeLanguage(u"F", u"mnuFrance"); }
 
-void frmGlossary::changeLanguage(TextView wordType) {
+void frmGlossary::changeLanguage(TextView wordType, TextView menuItem) {
   words_.gWordType = wordType;
   languageChanged();
+  sayRow(spoken::sentences(window_->menuItem(menuItem).design().caption, listSize()));
 }
 
 // Leaves full search, without the step that switches cmdSearchAgain off, and rebuilds the list.
@@ -53,6 +60,7 @@ void frmGlossary::mnuReRead_Click() {
   words_.readGlossaries();
   fillWordList();
   placeSelection();
+  sayRow(listSize());
 }
 
 void frmGlossary::mnuDoubletList_Click() {

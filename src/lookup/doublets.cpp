@@ -4,7 +4,6 @@ namespace termvik {
 
 namespace {
 
-constexpr TextView kRowMark = u" ------DUBBLETT-";
 constexpr TextView kReportTitle = u"DUBBLETTER";
 constexpr TextView kReportRule = u"=======================================";
 
@@ -33,7 +32,7 @@ void visitReport(const SortedRows& rows, defWords& words, Visit visit) {
 void markDoublets(const SortedRows& rows, const RowChange& change) {
   for (const auto& [first, last] : rows.equalRuns()) {
     for (std::int32_t row = first; row <= last; ++row) {
-      change(row, Text(rows.text(row)).append(kRowMark));
+      change(row, Text(rows.text(row)).append(kDoubletMark));
     }
   }
 }

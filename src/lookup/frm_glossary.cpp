@@ -6,6 +6,7 @@
 #include "common/system/numbers.h"
 #include "dialogs/frm_about.h"
 #include "lookup/frm_glossary_design.h"
+#include "spoken.h"
 
 namespace termvik {
 
@@ -30,6 +31,7 @@ frmGlossary::frmGlossary(const Surroundings& surroundings)
       optSearch_(window_->optionGroup(u"optSearch")),
       cmdSearchAgain_(window_->commandButton(u"cmdSearchAgain")),
       chkShowDoublet_(window_->checkBox(u"chkShowDoublet")) {
+  lstWords_.RowName = spoken::rowName;
   connectEvents();
 }
 

@@ -2,6 +2,7 @@
 // fits best, and the arrow and page keys move the selection.
 #include "lookup/frm_glossary.h"
 #include "lookup/look_up.h"
+#include "spoken.h"
 
 namespace termvik {
 
@@ -11,10 +12,19 @@ constexpr std::int32_t kPageRows = 15;  // whatever the height of the list
 
 }  // namespace
 
-void frmGlossary::txtSearch_Change() {
-  if (lstWords_.ListCount() == 0 || listBusy_) return;
+// Whether the selected row begins with the whole text.
+bool frmGlossary::lookUpSearchText() {
+  if (lstWords_.ListCount() == 0 || listBusy_) return false;
   const FoundRows found = lookUp(lstWords_.rows(), txtSearch_.text());
   moveInList(found.top, found.bottom);
+  return found.whole;
+}
+
+// A person who listens is told that the row does not fit; among hits it seldom does.
+void frmGlossary::txtSearch_Change() {
+  const bool fits = lookUpSearchText() || txtSearch_.text().empty();
+  const bool isNews = !fits && lstWords_.ListCount() > 0 && optSearch_.Value(0);
+  sayRow(isNews ? spoken::kNoMatch : TextView());
 }
 
 void frmGlossary::txtSearch_Click() {
@@ -27,20 +37,24 @@ void frmGlossary::txtSearch_KeyDown(std::int16_t& keyCode) {
   switch (keyCode) {
     case keys::kUp:
       moveInList(selected - 1, 0);
+      sayRow();
       keyCode = 0;
       break;
     case keys::kDown:
       moveInList(selected + 1, 0);
+      sayRow();
       keyCode = 0;
       break;
     case keys::kEnter:
-      if (optSearch_.Value(1)) cmdSearchAgain_Click();
+      if (optSearch_.Value(1)) searchAgain();
       break;
     case keys::kPageDown:
       moveInList(selected + kPageRows, 0);
+      sayRow();
       break;
     case keys::kPageUp:
       moveInList(selected - kPageRows, 0);
+      sayRow();
       break;
     default:
       break;
@@ -50,7 +64,12 @@ void frmGlossary::txtSearch_KeyDown(std::int16_t& keyCode) {
 void frmGlossary::txtSearch_KeyPress(std::int16_t& character) {
   if (character != keys::kEnter) return;
   character = 0;
-  txtSearch_Change();
+  if (optSearch_.Value(1)) {
+    lookUpSearchText();
+    sayRow(listSize());
+  } else {
+    txtSearch_Change();
+  }
 }
 
 }  // namespace termvik

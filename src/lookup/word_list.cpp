@@ -7,6 +7,7 @@
 #include "lookup/doublets.h"
 #include "lookup/frm_glossary.h"
 #include "lookup/search_words.h"
+#include "spoken.h"
 
 namespace termvik {
 
@@ -31,6 +32,7 @@ WordVisitor frmGlossary::addRow() {
 }
 
 void frmGlossary::fillWordList() {
+  holdsHits_ = false;
   lstWords_.Clear();
   visitWords(words_, chosenGlossaries(), addRow());
   if (chkShowDoublet_.Value() == 1) {
@@ -41,9 +43,15 @@ void frmGlossary::fillWordList() {
 }
 
 void frmGlossary::cmdSearchAgain_Click() {
+  searchAgain();
+  sayChange({});
+}
+
+void frmGlossary::searchAgain() {
   const Text searchText = txtSearch_.text();
   const std::vector<TextView> terms = splitSearchWords(words_.collation(), searchText);
   if (terms.empty()) return;
+  holdsHits_ = true;
   lstWords_.Clear();
   txtArticle_.setText({});
   visitHits(words_, chosenGlossaries(), terms, addRow());
@@ -66,7 +74,9 @@ void frmGlossary::showSelectedArticle() {
 }
 
 void frmGlossary::lstWords_Click() {
-  if (!listBusy_) showSelectedArticle();
+  if (listBusy_) return;
+  showSelectedArticle();
+  sayRow();
 }
 
 // Selects row `first`, with the rows down to `last` in view as far as the list's height allows, and
@@ -91,18 +101,19 @@ void frmGlossary::placeSelection() {
   if (words_.collation().isEmpty(txtSearch_.text())) {
     moveInList(0, 0);
   } else {
-    txtSearch_Change();
+    lookUpSearchText();
   }
 }
 
-void frmGlossary::optGlossary_Click(std::int16_t) {
+void frmGlossary::optGlossary_Click(std::int16_t Index) {
   if (!formLoaded_) return;
   if (optSearch_.Value(0)) {
     fillWordList();
     placeSelection();
   } else {
-    cmdSearchAgain_Click();
+    searchAgain();
   }
+  sayChange(spoken::chosen(captionOf(u"optGlossary", Index)));
 }
 
 }  // namespace termvik

@@ -155,6 +155,9 @@ void Player::actOnWords(std::string_view command, const Words& words) {
 void Player::start() {
   if (program_) throw ScriptError("'start' while the program runs");
   program_ = std::make_unique<Program>(hands_.toolkit(), collation_, app_);
+  if (printsSpeech_) {
+    window().Said = [this](TextView said) { out_ << Json{{"say", textJson(said)}} << '\n'; };
+  }
   program_->start();
   hands_.settle();
 }

@@ -25,6 +25,9 @@ class Player {
   // What the program shows and what the script asks for is printed on `out`.
   Player(Hands& hands, const Collation& collation, const App& app, std::ostream& out);
 
+  // Prints what the program says to a screen reader too.
+  void printSpeech() { printsSpeech_ = true; }
+
   // Does what one line says. Throws ScriptError.
   void play(std::string_view line);
 
@@ -49,6 +52,7 @@ class Player {
   const Collation& collation_;
   const App& app_;
   std::ostream& out_;
+  bool printsSpeech_ = false;
   std::unique_ptr<Program> program_;
 };
 

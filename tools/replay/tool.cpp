@@ -1,6 +1,7 @@
 // termvik-replay: the program under a script of what a user does.
 //
-//   termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT] --folder DIR [SCRIPT]
+//   termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT] [--say] --folder DIR
+//   [SCRIPT]
 //
 // See docs/replay.md for the script's commands and what is printed.
 #include "tool.h"
@@ -25,6 +26,7 @@ constexpr int kWrongUse = 2;
 struct Options {
   std::string toolkit = "memory";
   ScreenSize screen{28800, 16200};
+  bool say = false;
   std::filesystem::path folder;
   std::filesystem::path script;
 };
@@ -49,6 +51,8 @@ bool readOptions(const replay::Arguments& arguments, Options& options, std::stri
     }
     if (argument == "--toolkit") {
       options.toolkit = toUtf8(pathText(arguments[++i]));
+    } else if (argument == "--say") {
+      options.say = true;
     } else if (argument == "--folder") {
       options.folder = arguments[++i];
     } else if (argument == "--screen") {
@@ -91,6 +95,7 @@ int run(const Options& options) {
   App app;
   app.Path = options.folder;
   replay::Player player(*hands, collation, app, std::cout);
+  if (options.say) player.printSpeech();
   if (options.script.empty()) return playScript(std::cin, player);
   std::ifstream script(options.script, std::ios::binary);
   if (!script) {
@@ -108,7 +113,7 @@ int replay::runTool(const Arguments& arguments) {
   if (!readOptions(arguments, options, wrong)) {
     std::cerr << "termvik-replay: " << wrong
               << "\nusage: termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT]"
-                 " --folder DIR [SCRIPT]\n";
+                 " [--say] --folder DIR [SCRIPT]\n";
     return kWrongUse;
   }
   return run(options);

@@ -29,6 +29,11 @@ void Window::setHeight(float height) {
   setOuterPlace(place);
 }
 
+void Window::say(TextView utterance) {
+  if (Said) Said(utterance);
+  if (hasListener()) speak(utterance);
+}
+
 OptionGroup& Window::optionGroup(TextView name) const {
   for (const auto& candidate : groups_) {
     if (candidate->name == name) return candidate->group;

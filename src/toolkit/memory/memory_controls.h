@@ -104,6 +104,10 @@ class MemoryWindow : public Window {
   void userRestores();
   void userCloses();
 
+ protected:
+  bool hasListener() const override { return false; }
+  void speak(TextView) override {}
+
  private:
   void addControl(const ControlDesign& design);
 

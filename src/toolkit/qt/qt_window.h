@@ -32,6 +32,10 @@ class QtWindow : public Window {
   QMainWindow& widget();
   QAction* action(const MenuItem& item) const;
 
+ protected:
+  bool hasListener() const override { return false; }
+  void speak(TextView) override {}
+
  private:
   class MainWindow;
 

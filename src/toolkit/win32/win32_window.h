@@ -49,6 +49,10 @@ class Win32Window : public Window {
   // Tab reaches the option that is on, or the first of its group when none is.
   bool isTabStop(const OptionButton& option) const;
 
+ protected:
+  bool hasListener() const override { return false; }
+  void speak(TextView) override {}
+
  private:
   static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 

@@ -14,6 +14,7 @@ namespace termvik {
 using RowChange = std::function<void(std::int32_t row, TextView text)>;
 
 // Marks each doublet at its end.
+inline constexpr TextView kDoubletMark = u" ------DUBBLETT-";
 void markDoublets(const SortedRows& rows, const RowChange& change);
 
 // The articles of all doublets, word by word.

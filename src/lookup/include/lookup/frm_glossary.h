@@ -56,6 +56,7 @@ class frmGlossary {
   // word_list.cpp
   void fillWordList();
   void cmdSearchAgain_Click();
+  void searchAgain();
   WordVisitor addRow();
   ChosenGlossaries chosenGlossaries() const;
   void moveInList(std::int32_t first, std::int32_t last);
@@ -66,6 +67,7 @@ class frmGlossary {
   void optGlossary_Click(std::int16_t Index);
 
   // incremental_lookup.cpp
+  bool lookUpSearchText();
   void txtSearch_Change();
   void txtSearch_Click();
   void txtSearch_KeyDown(std::int16_t& keyCode);
@@ -78,10 +80,16 @@ class frmGlossary {
   void mnuSwedish_Click();
   void mnuGerman_Click();
   void mnuFrance_Click();
-  void changeLanguage(TextView wordType);
+  void changeLanguage(TextView wordType, TextView menuItem);
   void languageChanged();
   void mnuReRead_Click();
   void mnuDoubletList_Click();
+
+  // speech.cpp
+  void sayRow(TextView before = {});
+  void sayChange(TextView change);
+  Text listSize() const;
+  TextView captionOf(TextView option, std::int32_t index) const;
 
   // word_list_file.cpp
   void mnuCreateWordList_Click();
@@ -112,6 +120,7 @@ class frmGlossary {
   CheckBox& chkShowDoublet_;
 
   bool listBusy_ = false;            // moveInList is moving the selection
+  bool holdsHits_ = false;           // the list holds what a search has found
   bool formLoaded_ = false;          // Form_Load has come to its end
   bool searchOptionLocked_ = false;  // languageChanged is switching look-up on
   bool guarded_ = false;             // a handler is at work that takes care of lost memory

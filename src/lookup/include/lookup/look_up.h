@@ -11,7 +11,8 @@ namespace termvik {
 struct FoundRows {
   std::int32_t top = 0;  // the row to select
   std::int32_t bottom =
-      0;  // the row to bring into view with it; nothing when it is not after `top`
+      0;               // the row to bring into view with it; nothing when it is not after `top`
+  bool whole = false;  // the row begins with the whole text, which is not empty
 };
 
 // When the whole text begins some row, the run of rows that begin with it; otherwise the first row

@@ -133,6 +133,10 @@ class ListBox : public Control {
   // the row that is selected raises nothing.
   std::function<void()> Click;
 
+  // What a screen reader calls a row with that text; without it, the text itself.
+  std::function<Text(TextView text)> RowName;
+  Text rowName(std::int32_t row) const { return RowName ? RowName(List(row)) : Text(List(row)); }
+
  protected:
   virtual void showRows() = 0;                     // any rows may have come or gone
   virtual void showRowText(std::int32_t row) = 0;  // one text has changed

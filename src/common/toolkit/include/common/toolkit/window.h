@@ -59,6 +59,15 @@ class Window {
   // Closes the window without asking. It is then no longer among the open windows.
   virtual void Unload() = 0;
 
+  // Says `utterance` to a screen reader, in place of what it is saying. Nothing changes on the
+  // screen, and the focus stays where it is. Of utterances that follow each other too fast to be
+  // heard only the newest need be said. Where isHeard is false there is nobody to listen, and the
+  // words need not be made.
+  void say(TextView utterance);
+  bool isHeard() const { return Said || hasListener(); }
+
+  std::function<void(TextView utterance)> Said;  // what is said, for those who write it down
+
   std::function<void()> Resize;       // the size has changed, or the window has its first size
   std::function<void()> QueryUnload;  // the user or the system closes the window; Unload follows
   std::function<void()> Click;        // the user clicked where no control is
@@ -78,6 +87,9 @@ class Window {
   const std::vector<std::unique_ptr<Control>>& controls() const { return controls_; }
 
  protected:
+  virtual bool hasListener() const = 0;
+  virtual void speak(TextView utterance) = 0;  // only while there is a listener
+
   void addControl(std::unique_ptr<Control> control) { controls_.push_back(std::move(control)); }
   OptionGroup& groupOf(const ControlDesign& design);  // made when it is first asked for
   MenuItem& addMenuItem(const MenuItemDesign& design);
