@@ -1,11 +1,13 @@
 // What every toolkit promises to the program, with real acts of a person's hands on its real
 // controls.
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "dialogs/frm_about_design.h"
 #include "lookup/frm_glossary_design.h"
 #include "toolkit/hands/hands_by_name.h"
 
@@ -231,6 +233,34 @@ TEST_P(ToolkitContract, BoxesButtonsAndMenuItemsTellOfTheUser) {
   EXPECT_EQ(happened(), (Events{"mnuGerman", "mnuDoubletList"}));
 }
 
+TEST_P(ToolkitContract, OnlyAClickWhereNoControlIsIsOneOnTheWindow) {
+  const std::unique_ptr<Window> about = hands->toolkit().createWindow(frmAboutDesign());
+  about->Show();
+  for (Window* shown : {window.get(), about.get()}) {
+    shown->Click = [this] { log("window"); };
+    for (const auto& control : shown->controls()) {
+      happened();
+      hands->click(*control);
+      const bool isLine = control->design().kind == ControlKind::Line;
+      const Events seen = happened();
+      EXPECT_EQ(std::count(seen.begin(), seen.end(), "window"), isLine ? 1 : 0)
+          << toUtf8(control->design().name);
+    }
+    hands->clickCorner(*shown);
+    EXPECT_EQ(happened(), Events{"window"});
+  }
+}
+
+TEST_P(ToolkitContract, AnotherControlLeavesTheSelectedTextAlone) {
+  hands->replaceText(search, u"skruv");
+  hands->click(search);
+  search.setSelStart(1);
+  search.setSelLength(3);
+  hands->click(option(u"optGlossary", 0));
+  EXPECT_EQ(search.SelStart(), 1);
+  EXPECT_EQ(search.SelLength(), 3);
+}
+
 TEST_P(ToolkitContract, PlacesAreKeptToTheFractionOfATwip) {
   list.setWidth(3850.25F);
   list.setTop(1680.5F);
@@ -259,6 +289,10 @@ TEST_P(ToolkitContract, TheWindowKnowsItsState) {
   hands->restore(*window);
   EXPECT_EQ(window->State(), WindowState::Normal);
   EXPECT_EQ(window->outerPlace(), (Place{300, 300, 12000, 7500}));
+  hands->place(*window, {100, 200, 9000, 7000});  // no whole pixels
+  hands->maximise(*window);
+  hands->restore(*window);
+  EXPECT_EQ(window->outerPlace(), (Place{100, 200, 9000, 7000}));
 }
 
 TEST_P(ToolkitContract, ClosingAsksNobodyAndAModalBoxHoldsItsCaller) {

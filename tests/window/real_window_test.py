@@ -210,6 +210,18 @@ class RealWindow(unittest.TestCase):
                 self.assertEqual(self.outer(), outer)
             self.assertEqual(self.rows(), ["fil", "lim"])
 
+    def test_a_stored_size_that_does_not_fit_leaves_the_other_as_it_is(self):
+        width, height = self.outer()[2:]
+        for stored, expected in (((10500, 16000), (700, height)), ((99999, 6000), (width, 400))):
+            self.close()
+            (FOLDER / "Termvik.par").write_bytes(b"WINDOWSSTATE 0\r\nWINTOP 1500\r\nWINLEFT 1500\r\n"
+                                                 b"WINWIDTH %d\r\nWINHEIGHT %d\r\n" % stored)
+            self.start()
+            wait_for(lambda: self.outer()[2:], expected)
+            measures = b"WINWIDTH %d\r\nWINHEIGHT %d\r\n" % tuple(15 * n for n in expected)
+            self.assertIn(measures, self.close())
+            self.start()
+
     def is_maximised(self):
         state = run("xprop", "-id", self.window, "_NET_WM_STATE")
         return "MAXIMIZED_VERT" in state and "MAXIMIZED_HORZ" in state

@@ -1,5 +1,7 @@
 #include "toolkit/memory/memory_hands.h"
 
+#include <algorithm>
+
 #include "common/system/app.h"
 #include "memory_controls.h"
 
@@ -51,6 +53,11 @@ class MemoryHands : public Hands {
     if (auto* option = dynamic_cast<MemoryOptionButton*>(&control)) option->userChooses();
     if (auto* check = dynamic_cast<MemoryCheckBox*>(&control)) check->userClicksBox();
     if (auto* button = dynamic_cast<MemoryCommandButton*>(&control)) button->userPresses();
+    if (control.design().kind == ControlKind::Line) clickCorner(windowOf(control));
+  }
+
+  void clickCorner(Window& window) override {
+    if (window.Click) window.Click();
   }
 
   void clickRow(ListBox& list, std::int32_t row) override {
@@ -69,6 +76,16 @@ class MemoryHands : public Hands {
   template <class Kind, class Base>
   static Kind& as(Base& object) {
     return dynamic_cast<Kind&>(object);
+  }
+
+  Window& windowOf(const Control& control) const {
+    const auto holds = [&control](const Window* window) {
+      const auto& all = window->controls();
+      return std::any_of(all.begin(), all.end(),
+                         [&](const auto& one) { return &*one == &control; });
+    };
+    const std::vector<Window*> open = toolkit_.Forms();
+    return **std::find_if(open.begin(), open.end(), holds);
   }
 
   MemoryToolkit toolkit_;

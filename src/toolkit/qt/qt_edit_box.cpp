@@ -1,6 +1,7 @@
 #include "qt_edit_box.h"
 
 #include <limits>
+#include <utility>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -45,10 +46,35 @@ class QtEditBox::Edit : public QLineEdit {
     QLineEdit::keyPressEvent(event);
   }
 
+  // Qt would forget the selected part when the focus goes to another control. It stays and, as in
+  // the other toolkits, is not shown until the focus is back.
+  void focusOutEvent(QFocusEvent* event) override {
+    const int start = selectionStart();
+    const int length = selectionLength();
+    const bool backwards = cursorPosition() == start;
+    QLineEdit::focusOutEvent(event);
+    if (length == 0 || hasSelectedText()) return;
+    setSelection(backwards ? start + length : start, backwards ? -length : length);
+    QPalette hidden = shown_ = palette();
+    hidden.setBrush(QPalette::Highlight, hidden.base());
+    hidden.setBrush(QPalette::HighlightedText, hidden.text());
+    setPalette(hidden);
+    hides_ = true;
+  }
+
+  void focusInEvent(QFocusEvent* event) override {
+    if (std::exchange(hides_, false)) setPalette(shown_);
+    QLineEdit::focusInEvent(event);
+  }
+
   void mouseReleaseEvent(QMouseEvent* event) override {
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && rect().contains(event->pos())) box->userClicks();
   }
+
+ private:
+  QPalette shown_;
+  bool hides_ = false;  // the selected part looks like the rest
 };
 
 QtEditBox::QtEditBox(QWidget* parent, const ControlDesign& design)

@@ -120,6 +120,12 @@ class QtHands : public QObject, public Hands {
     settle();
   }
 
+  void clickCorner(Window& window) override {
+    QTest::mouseClick(dynamic_cast<QtWindow&>(window).widget().centralWidget(), Qt::LeftButton, {},
+                      QPoint(2, 2));
+    settle();
+  }
+
   void clickRow(ListBox& list, std::int32_t row) override {
     settle();
     QListView& view = *dynamic_cast<QtListBox&>(list).widget();

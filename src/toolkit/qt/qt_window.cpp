@@ -1,11 +1,15 @@
 #include "qt_window.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QTimer>
 
+#include "qt_controls.h"
 #include "qt_text.h"
 #include "toolkit/qt/qt_toolkit.h"
 
@@ -59,14 +63,21 @@ class QtWindow::MainWindow : public QMainWindow {
     return true;
   }
 
-  // Presses that no control has taken come here.
-  void mousePressEvent(QMouseEvent*) override {
-    if (window_.open_ && window_.Click) window_.Click();
+  // Presses and releases that no control has taken come here.
+  void mousePressEvent(QMouseEvent* event) override {
+    pressed_ = event->button() == Qt::LeftButton && window_.isBareAt(event->pos());
+  }
+
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    const bool clicks = event->button() == Qt::LeftButton && std::exchange(pressed_, false) &&
+                        window_.isBareAt(event->pos());
+    if (clicks && window_.open_ && window_.Click) window_.Click();
   }
 
  private:
   QtWindow& window_;
   bool active_ = false;
+  bool pressed_ = false;  // the mouse, on the bare surface
 };
 
 QtWindow::QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowDesign& design)
@@ -92,6 +103,16 @@ QtWindow::QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowD
 QtWindow::~QtWindow() { QtWindow::Unload(); }
 
 QMainWindow& QtWindow::widget() { return *widget_; }
+
+// Labels, pictures, frames and what is switched off let the mouse through and are controls all the
+// same. A line is none: it parts the bare surface.
+bool QtWindow::isBareAt(QPoint position) const {
+  const QWidget* at = widget_->childAt(position);
+  if (at == widget_->centralWidget()) return true;
+  return std::any_of(controls().begin(), controls().end(), [at](const auto& control) {
+    return control->design().kind == ControlKind::Line && qtWidget(*control) == at;
+  });
+}
 
 void QtWindow::Show() {
   if (Resize) Resize();

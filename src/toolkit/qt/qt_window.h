@@ -41,6 +41,7 @@ class QtWindow : public Window {
 
   // qt_window.cpp
   void userCloses();
+  bool isBareAt(QPoint position) const;
 
   // qt_window_parts.cpp
   void addControls(const Collation& collation);
@@ -70,8 +71,9 @@ class QtWindow : public Window {
   KnownPlace place_;
   QMargins frame_;  // the frame that place_ was reckoned with
   bool frameKnown_ = false;
-  bool wantsSize_ = false;      // the program has set the outer size and the frame is not yet known
-  bool wantsPosition_ = false;  // the same for the position
+  bool wantsWidth_ = false;     // the program has set it and the frame is not yet known
+  bool wantsHeight_ = false;    // likewise
+  bool wantsPosition_ = false;  // likewise
   bool placing_ = false;        // the program places the window, not the user
   bool open_ = true;
 };

@@ -19,9 +19,12 @@ constexpr int kFrameLooks = 20;
 }  // namespace
 
 void QtWindow::setOuterPlace(const Place& place) {
-  const bool resized = place.width != Width() || place.height != Height();
+  const bool widens = place.width != Width();
+  const bool heightens = place.height != Height();
+  const bool resized = widens || heightens;
   wantsPosition_ = wantsPosition_ || place.left != Left() || place.top != Top();
-  wantsSize_ = wantsSize_ || resized;
+  wantsWidth_ = wantsWidth_ || widens;
+  wantsHeight_ = wantsHeight_ || heightens;
   placeWidget(place);
   if (resized && Resize) Resize();
 }
@@ -30,10 +33,10 @@ void QtWindow::setOuterPlace(const Place& place) {
 void QtWindow::placeWidget(const Place& place) {
   const QRect outer = toQt(toPixels(place, kDpi));
   placing_ = true;
-  if (wantsSize_) {
-    widget_->resize(std::max(1, outer.width() - frame_.left() - frame_.right()),
-                    std::max(1, outer.height() - frame_.top() - frame_.bottom()));
-  }
+  QSize size = widget_->size();
+  if (wantsWidth_) size.setWidth(std::max(1, outer.width() - frame_.left() - frame_.right()));
+  if (wantsHeight_) size.setHeight(std::max(1, outer.height() - frame_.top() - frame_.bottom()));
+  widget_->resize(size);
   if (wantsPosition_ && !widget_->testAttribute(Qt::WA_WState_Created)) {
     widget_->move(outer.topLeft());  // a window that is not yet made is placed by its frame
   } else if (wantsPosition_) {
@@ -43,11 +46,13 @@ void QtWindow::placeWidget(const Place& place) {
   placing_ = false;
   const QRect now = outerPixels();
   QRect pixels = toQt(place_.pixels());
-  if (wantsSize_) pixels.setSize(now.size());
+  if (wantsWidth_) pixels.setWidth(now.width());
+  if (wantsHeight_) pixels.setHeight(now.height());
   if (wantsPosition_) pixels.moveTopLeft(now.topLeft());
   place_.set(place, fromQt(pixels), State() == WindowState::Normal);
   if (!frameKnown_) return;
-  wantsSize_ = false;
+  wantsWidth_ = false;
+  wantsHeight_ = false;
   wantsPosition_ = false;
 }
 

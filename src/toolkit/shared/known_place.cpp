@@ -1,7 +1,5 @@
 #include "toolkit/shared/known_place.h"
 
-#include <utility>
-
 namespace termvik {
 
 void KnownPlace::set(const Place& outer, const PixelRect& pixels, bool isNormal) {
@@ -10,19 +8,15 @@ void KnownPlace::set(const Place& outer, const PixelRect& pixels, bool isNormal)
 }
 
 void KnownPlace::take(const PixelRect& pixels, bool isNormal, int dpi) {
-  if (isNormal && pixels == normal_.pixels) {
-    now_ = normal_;
-    return;
-  }
-  const PixelRect before = std::exchange(now_.pixels, pixels);
-  const auto takeMeasure = [dpi](float& measure, int now, int then) {
-    if (now != then) measure = toTwips(now, dpi);
+  const Known known = isNormal ? normal_ : now_;
+  const auto measure = [dpi](int pixel, int knownPixel, float knownMeasure) {
+    return pixel == knownPixel ? knownMeasure : toTwips(pixel, dpi);
   };
-  takeMeasure(now_.outer.left, pixels.left, before.left);
-  takeMeasure(now_.outer.top, pixels.top, before.top);
-  takeMeasure(now_.outer.width, pixels.width(), before.width());
-  takeMeasure(now_.outer.height, pixels.height(), before.height());
-  if (isNormal) normal_ = now_;
+  now_ = {{measure(pixels.left, known.pixels.left, known.outer.left),
+           measure(pixels.top, known.pixels.top, known.outer.top),
+           measure(pixels.width(), known.pixels.width(), known.outer.width),
+           measure(pixels.height(), known.pixels.height(), known.outer.height)},
+          pixels};
 }
 
 }  // namespace termvik

@@ -139,6 +139,10 @@ class Win32Hands : public Hands {
     clickAt(handle, {place.right / 2, place.bottom / 2});
   }
 
+  void clickCorner(Window& window) override {
+    clickAt(dynamic_cast<Win32Window&>(window).hwnd(), {2, 2});
+  }
+
   void clickRow(ListBox& list, std::int32_t row) override {
     const HWND view = win32Widget(list).handle();
     SendMessageW(view, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);

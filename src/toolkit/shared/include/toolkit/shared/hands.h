@@ -32,6 +32,10 @@ class Hands {
 
   // Clicks the middle of a control.
   virtual void click(Control& control) = 0;
+
+  // Clicks the upper left corner of the client area, where no design has a control.
+  virtual void clickCorner(Window& window) = 0;
+
   virtual void clickRow(ListBox& list, std::int32_t row) = 0;
   virtual void choose(Window& window, MenuItem& item) = 0;
 

@@ -14,8 +14,9 @@ class KnownPlace {
   // The program has written `outer`, and the window stands at `pixels` for it.
   void set(const Place& outer, const PixelRect& pixels, bool isNormal);
 
-  // The user or the system has brought the window to `pixels`. A measure that has not changed keeps
-  // its fraction, and so do all of a window that comes back from another state.
+  // The user or the system has brought the window to `pixels`. A measure that is as the program
+  // wrote it keeps its fraction, also when the window comes back from another state, which a window
+  // system may do in several steps.
   void take(const PixelRect& pixels, bool isNormal, int dpi);
 
  private:
@@ -24,7 +25,7 @@ class KnownPlace {
     PixelRect pixels;
   };
   Known now_;
-  Known normal_;  // the last one in the normal state
+  Known normal_;  // the last one that the program wrote in the normal state
 };
 
 }  // namespace termvik
