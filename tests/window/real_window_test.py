@@ -16,7 +16,7 @@ PROGRAM, FOLDER = map(pathlib.Path, sys.argv[1:3])
 GLOSSARIES = {"graphword.txt": "Graphical, small\n---\nS: färg\nE: ink\n---\nS: lim\nE: glue\n"
                                "C: Sticks paper\nand board.\n---\nS: ark\nE: sheet\n---\n",
               "toolsword.txt": "Tools\n---\nS: lim\nE: size\nD: Leim\n---\nS: fil\nE: file\n"}
-DOUBLET = "lim ------DUBBLETT-"
+DOUBLET = "lim, doublet"  # as a reader calls the row
 RULE = "=" * 39
 REPORT = (f"DUBBLETTER\n{RULE}\n\n\n\nS: lim\nE: glue\n\nSticks paper\nand board."
           f"\n\nS: lim\nE: size\nD: Leim\n\n\n{RULE}\n\n").replace("\n", "\r\n")
@@ -55,6 +55,12 @@ def walk(node):
     yield node
     for child in filter(None, map(node.get_child_at_index, range(node.get_child_count()))):
         yield from walk(child)
+
+
+def iterate():
+    """Lets the listeners hear what has come."""
+    while GLib.MainContext.default().iteration(False):
+        pass
 
 
 def place(node):
@@ -187,6 +193,49 @@ class RealWindow(unittest.TestCase):
         self.assertIn("Version: ", self.text("Authors and version"))
         run("xdotool", "key", "Escape")
         wait_for(lambda: "OK" in [node.get_name() for node in self.nodes()], False)
+
+    def listen(self):
+        """What the reader is told from now on: what is said, and what it follows."""
+        told = []
+
+        def note(event):
+            is_said = event.source.get_role() == Atspi.Role.NOTIFICATION
+            in_status_bar = is_said and event.source.get_parent().get_role() == Atspi.Role.STATUS_BAR
+            if event.detail1 and ("focused" in event.type or in_status_bar):
+                told.append(event.source.get_name())
+
+        # The program may have closed before its last events are read.
+        listener = Atspi.EventListener.new(lambda event: attempt(lambda: note(event)))
+        for event in ("showing", "focused"):
+            listener.register("object:state-changed:" + event)
+            self.addCleanup(listener.deregister, "object:state-changed:" + event)
+        return told
+
+    def test_screen_reader_is_told_rows_articles_and_numbers(self):
+        told = self.listen()
+
+        def expect(*words):
+            wait_for(lambda: (iterate(), told)[1], list(words))
+            told.clear()
+
+        glue, size = (f"lim, doublet. S: lim, {rest}" for rest in
+                      ("E: glue, Sticks paper, and board.", "E: size, D: Leim"))
+        self.click("Both")
+        expect("Both", "Both selected. 5 words")
+        self.click("Search")
+        expect("Search")
+        run("xdotool", "type", "--delay", 5, "lim")
+        expect(glue)
+        run("xdotool", "key", "Down")
+        expect(size)
+        run("xdotool", "key", "Tab")
+        expect("Words", "lim, doublet")
+        run("xdotool", "key", "Up")
+        expect("lim, doublet", glue)
+        self.click("Markera dubletter!")
+        expect("Markera dubletter!", "Markera dubletter! not checked. 5 words")
+        self.click("Search words in whole glossary")
+        expect("Search words in whole glossary", "Search words in whole glossary selected. 2 hits")
 
     def test_doublets_reach_another_program(self):
         self.choose_both()

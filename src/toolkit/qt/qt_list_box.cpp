@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QStyledItemDelegate>
+#include <QTimer>
 
 #include "toolkit/shared/shown_limits.h"
 
@@ -24,12 +26,14 @@ class RowDelegate : public QStyledItemDelegate {
 }  // namespace
 
 int RowsModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() || changing_ ? 0 : rows_.count();
+  return parent.isValid() || changing_ ? 0 : list_.ListCount();
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || changing_ || role != Qt::DisplayRole) return {};
-  return toQt(rows_.text(index.row()).substr(0, kMostShownOfRow));
+  if (!index.isValid() || changing_) return {};
+  if (role == Qt::DisplayRole) return toQt(list_.List(index.row()).substr(0, kMostShownOfRow));
+  if (role == Qt::AccessibleTextRole) return toQt(list_.rowName(index.row()));
+  return {};
 }
 
 void RowsModel::beginChange() {
@@ -53,6 +57,27 @@ class QtListBox::View : public QListView {
   using QListView::QListView;
 
  protected:
+  // A reader follows the row only while the list has the focus: else it would leave the box.
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+    if (hasFocus()) {
+      QListView::currentChanged(current, previous);
+    } else {  // QListView adds nothing but the reader's events
+      // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+      QAbstractItemView::currentChanged(current, previous);
+    }
+  }
+
+  void focusInEvent(QFocusEvent* event) override {
+    QListView::focusInEvent(event);
+    if (!QAccessible::isActive() || !currentIndex().isValid()) return;
+    // After the one that the view itself raises for the list as a whole.
+    QTimer::singleShot(0, this, [this] {
+      QAccessibleEvent reached(this, QAccessible::Focus);
+      reached.setChild(currentIndex().row());
+      if (hasFocus() && currentIndex().isValid()) QAccessible::updateAccessibility(&reached);
+    });
+  }
+
   // A row stays selected whatever is held down during a click.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override {
@@ -64,7 +89,7 @@ class QtListBox::View : public QListView {
 };
 
 QtListBox::QtListBox(QWidget* parent, const ControlDesign& design, const Collation& collation)
-    : QtControl(new View(parent), design, collation), model_(new RowsModel(rows(), widget())) {
+    : QtControl(new View(parent), design, collation), model_(new RowsModel(*this, widget())) {
   QListView& view = *widget();
   view.setModel(model_);
   view.setItemDelegate(new RowDelegate(&view));

@@ -13,7 +13,7 @@ class RowsModel : public QAbstractListModel {
   Q_OBJECT
 
  public:
-  RowsModel(const SortedRows& rows, QObject* parent) : QAbstractListModel(parent), rows_(rows) {}
+  RowsModel(const ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -24,7 +24,7 @@ class RowsModel : public QAbstractListModel {
   void showRowText(int row);
 
  private:
-  const SortedRows& rows_;
+  const ListBox& list_;
   bool changing_ = false;
 };
 

@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAccessible>
 #include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QTimer>
 
+#include "qt_announcer.h"
 #include "qt_controls.h"
 #include "qt_text.h"
 #include "toolkit/qt/qt_toolkit.h"
@@ -135,6 +137,13 @@ void QtWindow::Unload() {
   toolkit_.closed(*this);
   widget_->hide();
   modalLoop_.quit();
+}
+
+bool QtWindow::hasListener() const { return QAccessible::isActive(); }
+
+void QtWindow::speak(TextView utterance) {
+  if (announcer_ == nullptr) announcer_ = new QtAnnouncer(*widget_);
+  announcer_->say(toQt(utterance));
 }
 
 void QtWindow::userCloses() {

@@ -13,6 +13,7 @@
 
 namespace termvik {
 
+class QtAnnouncer;
 class QtToolkit;
 
 class QtWindow : public Window {
@@ -33,8 +34,8 @@ class QtWindow : public Window {
   QAction* action(const MenuItem& item) const;
 
  protected:
-  bool hasListener() const override { return false; }
-  void speak(TextView) override {}
+  bool hasListener() const override;
+  void speak(TextView utterance) override;
 
  private:
   class MainWindow;
@@ -64,6 +65,7 @@ class QtWindow : public Window {
 
   QtToolkit& toolkit_;
   std::unique_ptr<QMainWindow> widget_;
+  QtAnnouncer* announcer_ = nullptr;  // made when there is something to say
   QEventLoop modalLoop_;
   std::vector<std::pair<const MenuItem*, QAction*>> actions_;
   QPointer<QWidget> focusBehindMenu_;
