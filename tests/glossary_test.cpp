@@ -142,6 +142,28 @@ TEST(Store, TakesVeryLongLinesAndVeryManyEmptyBlocks) {
   EXPECT_TRUE(store.entries() == (Strings{"S=" + word + ";S=b;|", "S=end;|"}));
 }
 
+TEST(Entry, IsReadWithTheWordsOfTheLanguageFirst) {
+  struct Case {
+    std::string file;
+    TextView language;
+    std::string article;
+  };
+  const std::array cases = {
+      Case{"S: a/E: b/c/D: d/C: n/m", u"S", "S: a/E: b, c/D: d//n/m"},
+      Case{"S: a/E: b/c/D: d", u"E", "E: b, c/S: a/D: d//"},
+      Case{"S: a/E: b", u"F", "/S: a/E: b//"},
+      // A type that comes again begins a new line, one that only differs in case does not.
+      Case{"E: b/D: d/E: c", u"S", "/E: b/D: d/E: c//"},
+      Case{"E: b/e: c/D: d", u"S", "/E: b, c/D: d//"},
+      Case{"S: a/s: b/e: c/E: d", u"S", "S: a, b/e: c, d//"},
+  };
+  for (const Case& given : cases) {
+    Store store(given.file);
+    EXPECT_EQ(flat(store.words.gEntries(1).getArticle(given.language)), given.article)
+        << given.file;
+  }
+}
+
 TEST(Entry, IsWrittenAsABlockAtItsLowestWord) {
   struct Case {
     std::string row;

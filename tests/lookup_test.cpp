@@ -28,21 +28,44 @@ TEST_F(LookUp, SaysOnlySoMuchOfALongRowAndArticle) {
 }
 
 TEST(SearchTerms, AreWordsAndQuotedPhrases) {
-  const std::string full(100000, 'x');
-  expectTable(  // ¨ stands for a quote, · for a blank
-      " =>  ;; a =>  ;; ·a => a| ;; a· => a| ;; a·b => a|b| ;; ··· =>  ;; ¨ =>  ;; ¨¨ =>  ;; "
-      "¨·¨ => ·| ;; abc·def => abc|def| ;; ¨abc·def => abc·def| ;; ¨abc·def¨·gh => abc·def|gh| ;; "
-      "¨abc·def¨ => abc·def| ;; ¨abc·def¨x => abc·def| ;; ¨abc·def¨xy => abc·def|xy| ;; "
-      "ab¨cd·ef¨ => ab¨cd|ef¨| ;; \tab\t\t¨c\td¨ => ab|c\td| ;; ¨ab¨¨cd¨ => ab|cd| ;; "
-      "¨¨·ab => ab| ;; ab·\u00AD·cd => ab|cd| ;; " +
-          full + "·y => " + full + "|y| ;; " +
-          "1·2·3·4·5·6·7·8·9·10·11·12 => 1|2|3|4|5|6|7|8|9|10| ;; ",
-      [](const std::string& given) {
-        const Text text = fromUtf8(replaced(replaced(given, "·", " "), "¨", "\""));
-        std::string terms;
-        for (const TextView term : splitSearchWords(swedish(), text)) terms += toUtf8(term) + "|";
-        return replaced(replaced(terms, " ", "·"), "\"", "¨");
-      });
+  struct Case {
+    Text text;
+    std::vector<Text> terms;
+  };
+  const Text full(100'000, u'x');
+  const std::array cases = {
+      Case{u"", {}},
+      // A last single character is not read.
+      Case{u"a", {}},
+      Case{u" a", {u"a"}},
+      Case{u"a ", {u"a"}},
+      Case{u"a b", {u"a", u"b"}},
+      Case{u"abc def", {u"abc", u"def"}},
+      Case{u"   ", {}},
+      Case{u"ab \u00AD cd", {u"ab", u"cd"}},
+      // Phrases, closed or not; a quote inside a word is a character.
+      Case{uR"(")", {}},
+      Case{uR"("")", {}},
+      Case{uR"(" ")", {u" "}},
+      Case{uR"("" ab)", {u"ab"}},
+      Case{uR"("abc def)", {u"abc def"}},
+      Case{uR"("abc def")", {u"abc def"}},
+      Case{uR"("abc def" gh)", {u"abc def", u"gh"}},
+      Case{uR"("abc def"x)", {u"abc def"}},
+      Case{uR"("abc def"xy)", {u"abc def", u"xy"}},
+      Case{uR"("ab""cd")", {u"ab", u"cd"}},
+      Case{uR"(ab"cd ef")", {u"ab\"cd", u"ef\""}},
+      Case{u"\tab\t\t\"c\td\"", {u"ab", u"c\td"}},
+      // Any length, and ten terms.
+      Case{full + u" y", {full, u"y"}},
+      Case{u"1 2 3 4 5 6 7 8 9 10 11 12",
+           {u"1", u"2", u"3", u"4", u"5", u"6", u"7", u"8", u"9", u"10"}},
+  };
+  for (const Case& given : cases) {
+    const auto terms = splitSearchWords(swedish(), given.text);
+    EXPECT_TRUE(std::equal(terms.begin(), terms.end(), given.terms.begin(), given.terms.end()))
+        << toUtf8(given.text.substr(0, 100)) << " gives " << terms.size() << " terms";
+  }
 }
 
 TEST_F(LookUp, FindsWhatOneEntryAfterTheOtherFinds) {

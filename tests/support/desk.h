@@ -22,18 +22,6 @@ inline std::string rowsText(const SortedRows& rows) {
   return all;
 }
 
-// A table: cases of what is given => what `answer` makes of it, each closed by ` ;; `.
-template <class Answer>
-void expectTable(const std::string& table, Answer answer) {
-  std::size_t at = 0;
-  for (std::size_t end = 0; (end = table.find(" ;; ", at)) != std::string::npos; at = end + 4) {
-    const std::string line = table.substr(at, end - at);
-    const std::size_t arrow = line.find(" => ");
-    EXPECT_EQ(answer(line.substr(0, arrow)), line.substr(arrow + 4)) << line.substr(0, 200);
-  }
-  EXPECT_EQ(at, table.size());
-}
-
 class Desk : public testing::Test {
  protected:
   Desk() {
