@@ -49,3 +49,8 @@ if(TERMVIK_SANITIZE)
   target_compile_definitions(termvik_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(termvik_options INTERFACE ${sanitizers})
 endif()
+
+if(TERMVIK_FUZZ)
+  # The program's own code tells the fuzzer which ways an input has taken through it.
+  target_compile_options(termvik_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()

@@ -7,6 +7,7 @@ display_packages=(xvfb openbox xdotool x11-utils imagemagick)
 core_packages=("${build_packages[@]}" libgtest-dev nlohmann-json3-dev)
 test_packages=("${display_packages[@]}" libgtest-dev nlohmann-json3-dev xclip dbus dbus-x11 at-spi2-core python3
                python3-gi gir1.2-atspi-2.0)
+fuzz_packages=(clang libclang-rt-dev)
 bench_packages=(dbus pkg-config libbenchmark-dev libxcb-damage0-dev)
 windows_packages=(g++-mingw-w64-x86-64 wine64 googletest nlohmann-json3-dev libcli11-dev dpkg-dev cmake
                   ninja-build fonts-liberation "${display_packages[@]}")
@@ -17,7 +18,7 @@ fail() { echo "$1" >&2 && exit 1; }
 
 # What some packages are needed for, on systems that name their packages otherwise.
 declare -A command_of=(
-  [binutils]=objdump [build-essential]=g++ [cmake]=cmake [dbus]=dbus-run-session [g++-mingw-w64-x86-64]=x86_64-w64-mingw32-g++
+  [binutils]=objdump [build-essential]=g++ [clang]=clang++ [cmake]=cmake [dbus]=dbus-run-session [g++-mingw-w64-x86-64]=x86_64-w64-mingw32-g++
   [git]=git [icu-devtools]=icupkg [imagemagick]=import [ninja-build]=ninja [openbox]=openbox [python3]=python3
   [wine64]=wine [x11-utils]=xprop [xclip]=xclip [xdotool]=xdotool [xvfb]=Xvfb [xz-utils]=xz [zip]=zip)
 

@@ -27,14 +27,15 @@ std::size_t countPlaces(std::size_t size, Holds holds) {
   return count;
 }
 
-// Adds `size` bytes; the last byte before them stands in front of them.
-void add(const char* bytes, std::size_t size, FileMeasure& measure) {
+// Adds the `size` bytes that follow the byte at `before`.
+void add(const char* before, std::size_t size, FileMeasure& measure) {
   // A byte above 7F can be three letters, as ¾ is; another is one at the most.
   constexpr std::size_t kMoreLetters = 2;
+  const char* const bytes = before + 1;
   const auto isCr = [bytes](std::size_t at) { return bytes[at] == '\r'; };
   const auto isHigh = [bytes](std::size_t at) { return static_cast<signed char>(bytes[at]) < 0; };
-  const auto endsCrLf = [bytes](std::size_t at) {
-    return static_cast<int>(bytes[at - 1] == '\r') & static_cast<int>(bytes[at] == '\n');
+  const auto endsCrLf = [before](std::size_t at) {
+    return static_cast<int>(before[at] == '\r') & static_cast<int>(before[at + 1] == '\n');
   };
   const std::size_t crs = countPlaces(size, isCr);
   measure.lines += crs;
@@ -57,7 +58,7 @@ bool measureFile(const Files& files, const std::filesystem::path& fileName, File
     const auto read = file->read(std::span(bytes).subspan(kKept));
     if (!read) return false;
     if (*read == 0) break;
-    add(&bytes[kKept], *read, measure);
+    add(&bytes[kKept - 1], *read, measure);
     if (measure.letters > kMostBytes) return false;
     std::copy_n(&bytes[*read], kKept, bytes.data());
   }
