@@ -263,6 +263,11 @@ void Win32Window::Unload() {
   PostMessageW(hwnd_, WM_NULL, 0, 0);  // a loop that waits for the window's end looks again
 }
 
+void Win32Window::speak(TextView utterance) {
+  if (announcer_ == nullptr) announcer_ = std::make_unique<Win32Announcer>(hwnd_);
+  announcer_->say(utterance);
+}
+
 void Win32Window::userCloses() {
   if (!open_) return;
   if (QueryUnload) QueryUnload();

@@ -8,6 +8,7 @@
 
 #include "common/toolkit/toolkit.h"
 #include "toolkit/shared/known_place.h"
+#include "win32_announcer.h"
 #include "win32_controls.h"
 #include "win32_fonts.h"
 #include "win32_icons.h"
@@ -50,8 +51,8 @@ class Win32Window : public Window {
   bool isTabStop(const OptionButton& option) const;
 
  protected:
-  bool hasListener() const override { return false; }
-  void speak(TextView) override {}
+  bool hasListener() const override { return Win32Announcer::hasListener(); }
+  void speak(TextView utterance) override;
 
  private:
   static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
@@ -99,9 +100,10 @@ class Win32Window : public Window {
   int dpi_ = 0;
   std::unique_ptr<Win32Fonts> fonts_;
   std::unique_ptr<Win32Icons> icons_;
-  std::vector<MenuItem*> menuItems_;  // in the order of the menu bar
-  HWND lastFocus_ = nullptr;          // when the window was last active
-  std::vector<HWND> barred_;          // windows that take no input while this one is modal
+  std::unique_ptr<Win32Announcer> announcer_;  // made when there is something to say
+  std::vector<MenuItem*> menuItems_;           // in the order of the menu bar
+  HWND lastFocus_ = nullptr;                   // when the window was last active
+  std::vector<HWND> barred_;                   // windows that take no input while this one is modal
 
   KnownPlace place_;
   bool maximiseAtShow_ = false;
