@@ -109,7 +109,8 @@ void writeFile(const Path& file, std::uint32_t seed, std::int64_t entries) {
   if (out.fail()) throw std::runtime_error("cannot write " + file.string());
 }
 
-// A folder that goes with its last owner.
+}  // namespace
+
 std::shared_ptr<const Path> makeScratchFolder() {
   const auto remove = [](const Path* path) {
     std::error_code ignored;
@@ -122,8 +123,6 @@ std::shared_ptr<const Path> makeScratchFolder() {
   std::filesystem::create_directories(*folder);
   return folder;
 }
-
-}  // namespace
 
 std::array<Path, 2> glossaryFiles(const Path& folder) {
   return {folder / "graphword.txt", folder / "toolsword.txt"};
