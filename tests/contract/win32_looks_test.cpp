@@ -163,6 +163,22 @@ TEST_F(Win32MainWindow, TheSelectedRowStandsOutInView) {
   RECT inside;
   GetClientRect(view, &inside);
   EXPECT_EQ(SendMessageW(view, LVM_GETCOLUMNWIDTH, 0, 0), inside.right) << "wider than before";
+  list.Clear();
+  for (int i = 0; i < 200; ++i) list.AddItem(fromUtf8("word " + std::to_string(1000 + i)), i);
+  hands->settle();
+  EXPECT_EQ(SendMessageW(view, LVM_GETTOPINDEX, 0, 0), 0) << "another list begins at its top";
+}
+
+TEST_F(Win32MainWindow, OptionsShowWhatTheProgramChooses) {
+  OptionGroup& glossaries = window->optionGroup(u"optGlossary");
+  for (const std::int32_t chosen : {1, 2, 0}) {
+    glossaries.setValue(chosen, true);
+    for (const auto& control : window->controls()) {
+      if (control->design().name != u"optGlossary") continue;
+      const bool shown = SendMessageW(win32Widget(*control).handle(), BM_GETCHECK, 0, 0) != 0;
+      EXPECT_EQ(shown, control->design().index == chosen) << chosen;
+    }
+  }
 }
 
 TEST_F(Win32MainWindow, WhatTakesInputLiesAboveTheRest) {
@@ -186,6 +202,9 @@ TEST_F(Win32MainWindow, TheMenuBarAndTheArticleLookAsDesigned) {
     if ((state & MF_GRAYED) != 0) grey += std::to_string(i);
   }
   EXPECT_EQ(grey, "7");
+  const auto [left, right] =
+      bareEdges(colours(handleOf(u"lblInternet")), GetSysColor(COLOR_BTNFACE));
+  EXPECT_GT(left, right) << "the address ends at the right";
   SCROLLBARINFO bar{};
   bar.cbSize = sizeof bar;
   GetScrollBarInfo(handleOf(u"txtArticle"), static_cast<LONG>(OBJID_VSCROLL), &bar);

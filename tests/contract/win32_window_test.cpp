@@ -50,6 +50,12 @@ TEST_F(Win32MainWindow, ACharacterThatNoBoxShowsCutsNothingShort) {
   article.setText(word + u"\r\n" + word + u"\rS: kil\n" + Text(1, u'\0') + u"wedge");
   EXPECT_GT(SendMessageW(handleOf(u"txtArticle"), EM_GETLINECOUNT, 0, 0), 6);
   EXPECT_EQ(copied(handleOf(u"txtArticle")), word + u"\r\n" + word + u"\rS: kil\n wedge");
+  const LRESULT shown = SendMessageW(handleOf(u"txtArticle"), WM_GETTEXTLENGTH, 0, 0);
+  Text end;
+  hands->seesClipboard = [&](TextView seen) { end = seen; };
+  SendMessageW(handleOf(u"txtArticle"), EM_SETSEL, static_cast<WPARAM>(shown - 5), shown);
+  SendMessageW(handleOf(u"txtArticle"), WM_CHAR, 3, 1);  // Ctrl+C
+  EXPECT_EQ(end, u"wedge") << "behind breaks that the box had to add";
   SendMessageW(handleOf(u"txtArticle"), WM_CHAR, u'x', 1);
   EXPECT_EQ(copied(handleOf(u"txtArticle")).size(), article.text().size()) << "read only";
 }
