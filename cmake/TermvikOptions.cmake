@@ -53,4 +53,5 @@ endif()
 if(TERMVIK_FUZZ)
   # The program's own code tells the fuzzer which ways an input has taken through it.
   target_compile_options(termvik_options INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(termvik_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
