@@ -2,7 +2,7 @@
 # Sourced by the scripts that run the benchmarks: builds them, and opens a display for the window's.
 source scripts/setup.sh
 
-subjects=(load fill key_stroke full_search doublets hostile start window)
+subjects=(load fill key_stroke full_search doublets hostile glossary_tool start window)
 
 prepare() {
   need_packages "${build_packages[@]}" "${display_packages[@]}" "${bench_packages[@]}"

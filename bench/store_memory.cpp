@@ -1,13 +1,12 @@
 // store_memory [ENTRIES]: starts the program on a sample with that many entries, with both
 // glossaries in the list, and prints how far the process grew beyond the empty one at its peak,
 // beside the bytes of the files. The exit status is 1 when that is over the limit, which is judged
-// from the largest sample on. Linux only: the kernel knows the peak.
+// from the largest sample on.
 #include <cstdio>
 #include <exception>
-#include <fstream>
-#include <limits>
 #include <string>
 
+#include "peak_memory.h"
 #include "sample_glossary.h"
 #include "sample_program.h"
 #include "side_by_side.h"
@@ -18,24 +17,14 @@ using namespace termvik;
 
 constexpr double kLimit = 6;  // times the bytes of the files
 
-double peakBytes() {
-  constexpr double kKibi = 1024;
-  std::ifstream status("/proc/self/status");
-  std::string field;
-  double size = std::numeric_limits<double>::quiet_NaN();
-  while (status >> field && field != "VmHWM:") continue;
-  status >> size;
-  return size * kKibi;
-}
-
 int report(std::int64_t entries) {
   double bytes = 0;
   for (const auto& file : bench::glossaryFiles(bench::sampleFolder(entries))) {
     bytes += static_cast<double>(std::filesystem::file_size(file));
   }
-  const double empty = peakBytes();
+  const double empty = bench::peakBytes();
   const bench::SampleProgram program(entries);
-  const double growth = peakBytes() - empty;
+  const double growth = bench::peakBytes() - empty;
   // In a small glossary the memory that any program takes is most of it.
   const bool within = entries < bench::kLargest || growth <= kLimit * bytes;
   std::printf(

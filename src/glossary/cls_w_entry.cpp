@@ -1,37 +1,26 @@
 #include "glossary/cls_w_entry.h"
 
+#include "entry_texts.h"
 #include "glossary/entry_lines.h"
-#include "glossary/entry_texts.h"
 
 namespace termvik {
 
 namespace {
 
-// Puts the words of an entry into the texts, then its comment: the lines of one lie one after the
-// other.
+// Puts the words of an entry into the texts, then its comment.
 class Storing {
  public:
-  explicit Storing(EntryTexts& texts) : texts_(texts) {}
+  explicit Storing(EntryTexts& texts) : texts_(texts), comment_(texts.collation()) {}
 
   void word(std::int32_t, TextView text, char16_t wordType) { texts_.addWord(text, wordType); }
-  void comment(std::int32_t, TextView text, bool isHead) {
-    const bool begins = isHead || isEmpty();
-    const char16_t* const begin = begins ? text.data() : comment_.data();
-    comment_ = TextView(begin, static_cast<std::size_t>(text.data() + text.size() - begin));
-    hasSeveralLines_ = !begins;
-  }
+  void comment(std::int32_t, TextView text, bool isHead) { comment_.add(text, isHead); }
   void passedOver(std::int32_t) {}
 
-  void addComment() { texts_.addComment(comment_); }
+  void addComment() { texts_.addComment(comment_.text()); }
 
  private:
-  // A comment that has several lines is not asked again, since it stays what it is: `C: x` and
-  // 100,000 lines would be a hundred thousand looks at all that stands above.
-  bool isEmpty() const { return !hasSeveralLines_ && texts_.collation().isEmpty(comment_); }
-
   EntryTexts& texts_;
-  TextView comment_;
-  bool hasSeveralLines_ = false;
+  CommentLines comment_;
 };
 
 }  // namespace

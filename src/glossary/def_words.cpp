@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "common/system/line_reader.h"
-#include "glossary/entry_texts.h"
+#include "entry_texts.h"
 #include "glossary/line_table.h"
 
 namespace termvik {

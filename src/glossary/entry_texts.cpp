@@ -1,4 +1,4 @@
-#include "glossary/entry_texts.h"
+#include "entry_texts.h"
 
 namespace termvik {
 

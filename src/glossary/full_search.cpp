@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "common/system/partition.h"
-#include "glossary/entry_texts.h"
+#include "entry_texts.h"
 
 namespace termvik {
 

@@ -111,7 +111,7 @@ TEST_F(CommandLine, LeavesNothingBehindWhenItFails) {
     EXPECT_EQ(result.status, 2) << testing::PrintToString(arguments);
     EXPECT_NE(result.err.find(": error: "), std::string::npos);
   }
-  EXPECT_EQ(run({"convert", "foreign.csv", "a.txt", "--force"}).status, 1);
+  EXPECT_EQ(run({"convert", "foreign.csv", "a.txt", "--force"}).status, 2);
   EXPECT_EQ(folder.read("a.txt"), "v/---/S: a/E: b/---/");
   std::size_t files = 0;
   for (const auto& entry : std::filesystem::directory_iterator("."))

@@ -55,7 +55,8 @@ class RoundTrip : public ToolTest {
       for (const tool::Word& word : entry.words) {
         text.append({word.type, u'='}).append(word.text).append(u";");
       }
-      all.push_back(toUtf8(text.append(u"|").append(tool::commentText(entry))));
+      Text room;
+      all.push_back(toUtf8(text.append(u"|").append(tool::commentText(entry, room))));
     }
     return all;
   }

@@ -13,20 +13,10 @@ namespace termvik::tool {
 
 namespace {
 
-bool endsLine(std::string_view bytes, std::size_t at) {
-  return bytes[at] == '\n' || (bytes[at] == '\r' && !bytes.substr(at + 1).starts_with('\n'));
-}
-
-std::uint32_t editorLineOf(std::string_view bytes, std::size_t at) {
-  std::uint32_t line = 1;
-  for (std::size_t i = 0; i < at; ++i) line += endsLine(bytes, i) ? 1 : 0;
-  return line;
-}
-
 void inspectEncoding(std::string_view bytes, Findings& findings) {
   const auto find = [&](std::size_t at, std::string_view what, std::size_t length) {
     const std::string seen = inQuotes(decodeAnsi(bytes.substr(at, length)));
-    findings.push_back({editorLineOf(bytes, at), &kinds::kEncoding,
+    findings.push_back({LineCount(bytes).lineOf(at), &kinds::kEncoding,
                         std::string(what) + "; the program would show " + seen});
   };
   const ByteOrderMark mark = byteOrderMark(bytes);
@@ -54,7 +44,7 @@ void inspectLineEnds(std::string_view bytes, Findings& findings) {
     ++count;
   }
   if (count == 0) return;
-  findings.push_back({editorLineOf(bytes, first), &kinds::kLineEnds,
+  findings.push_back({LineCount(bytes).lineOf(first), &kinds::kLineEnds,
                       counted(count, "line ends", "lines end") +
                           " in LF without CR; the program takes what follows for the same line"});
 }
@@ -71,19 +61,18 @@ constexpr std::array<bool, 256> makeControls() {
 // Once for each line, so that a file that is no text does not fill the screen.
 void inspectControls(std::string_view bytes, Findings& findings) {
   constexpr std::array<bool, 256> kIsControl = makeControls();
-  std::uint32_t line = 1;
-  bool told = false;
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(bytes[i]);
-    if (kIsControl.at(byte) && !std::exchange(told, true)) {
-      std::array<char, 4> digits{};
-      std::snprintf(digits.data(), digits.size(), "%02X", byte);
-      findings.push_back({line, &kinds::kControl,
-                          "the byte " + std::string(digits.data()) + " is a control character"});
-    } else if (endsLine(bytes, i)) {
-      told = false;
-      ++line;
-    }
+  const auto isControl = [&](char byte) { return kIsControl.at(static_cast<unsigned char>(byte)); };
+  LineCount lines(bytes);
+  for (auto at = bytes.begin();;) {
+    at = std::find_if(at, bytes.end(), isControl);
+    if (at == bytes.end()) return;
+    const auto offset = static_cast<std::size_t>(at - bytes.begin());
+    std::array<char, 4> digits{};
+    std::snprintf(digits.data(), digits.size(), "%02X", static_cast<unsigned char>(*at));
+    findings.push_back({lines.lineOf(offset), &kinds::kControl,
+                        "the byte " + std::string(digits.data()) + " is a control character"});
+    at += static_cast<std::ptrdiff_t>(std::min(bytes.find_first_of("\r\n", offset), bytes.size()) -
+                                      offset);
   }
 }
 

@@ -46,11 +46,10 @@ bool CellReader::next(Row& row) {
 }
 
 Cell CellReader::takeCell(bool& stray) {
-  const std::uint32_t line = line_;
-  if (rest_.starts_with(kQuote)) return {takeQuoted(stray), line};
+  if (rest_.starts_with(kQuote)) return takeQuoted(stray);
   const TextView plain = rest_.substr(0, plainLength());
   rest_.remove_prefix(plain.size());
-  return {plain, line};
+  return {plain, line_};
 }
 
 // Up to the delimiter or the end of the line.
@@ -59,7 +58,7 @@ std::size_t CellReader::plainLength() const {
   return static_cast<std::size_t>(std::find_if(rest_.begin(), rest_.end(), ends) - rest_.begin());
 }
 
-TextView CellReader::takeQuoted(bool& stray) {
+Cell CellReader::takeQuoted(bool& stray) {
   const TextView whole = rest_.substr(1);
   std::size_t end = whole.find(kQuote);
   bool doubled = false;
@@ -70,11 +69,12 @@ TextView CellReader::takeQuoted(bool& stray) {
   if (end == TextView::npos) {
     throw Failure(placeText(name_, line_) + "error: a cell begins with a quote and never ends");
   }
+  const std::uint32_t line = line_;
   TextView cell = whole.substr(0, end);
   line_ += countLineEnds(cell);
   rest_ = whole.substr(end + 1);
   const std::size_t strayLength = plainLength();
-  if (!doubled && strayLength == 0) return cell;
+  if (!doubled && strayLength == 0) return {cell, line};
   Text& text = unquoted_.emplace_back();
   for (; !cell.empty(); cell.remove_prefix(1)) {
     text += cell.front();
@@ -83,7 +83,7 @@ TextView CellReader::takeQuoted(bool& stray) {
   text.append(rest_.substr(0, strayLength));
   rest_.remove_prefix(strayLength);
   stray = stray || strayLength > 0;
-  return text;
+  return {text, line, false};
 }
 
 char16_t delimiterOf(TextView text) {
@@ -101,9 +101,12 @@ char16_t delimiterOf(TextView text) {
 
 void appendCell(Text& row, TextView cell, char16_t delimiter) {
   const auto needsQuotes = [delimiter](char16_t c) {
-    return c == delimiter || c == kQuote || isLineEnd(c);
+    return static_cast<int>(c == delimiter) | static_cast<int>(c == kQuote) |
+           static_cast<int>(c == u'\r') | static_cast<int>(c == u'\n');
   };
-  if (std::none_of(cell.begin(), cell.end(), needsQuotes)) {
+  int anyNeeds = 0;  // to the end whatever is found: the compiler looks at many characters at once
+  for (const char16_t character : cell) anyNeeds |= needsQuotes(character);
+  if (anyNeeds == 0) {
     row.append(cell);
     return;
   }

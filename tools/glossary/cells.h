@@ -13,6 +13,7 @@ namespace termvik::tool {
 struct Cell {
   TextView text;
   std::uint32_t line = 0;  // on which it begins
+  bool lasts = true;       // the text is a piece of the table's; else it goes with the next row
 };
 
 // A row lies on one line or, where a cell in quotes holds line ends, on several.
@@ -27,8 +28,7 @@ class CellReader {
   // `text` must outlive the reader. `name` is the file's for a Failure.
   CellReader(TextView text, char16_t delimiter, std::string name);
 
-  // False at the end. Throws Failure where a cell in quotes never ends. The texts of the cells are
-  // good until the next call.
+  // False at the end. Throws Failure where a cell in quotes never ends.
   bool next(Row& row);
 
   // How much of the text is left.
@@ -36,7 +36,7 @@ class CellReader {
 
  private:
   Cell takeCell(bool& stray);
-  TextView takeQuoted(bool& stray);
+  Cell takeQuoted(bool& stray);
   std::size_t plainLength() const;
 
   TextView rest_;

@@ -108,9 +108,8 @@ void findMissing(const InspectedWords& words, Findings& findings) {
   }
 }
 
-void inspectFile(const std::string& bytes, const CheckOptions& options, const Collation& collation,
-                 CheckedFile& file, AllWords& allWords) {
-  const bool isUtf16 = inspectBytes(bytes, file.findings);
+void inspectLines(bool isUtf16, const CheckOptions& options, const Collation& collation,
+                  CheckedFile& file, AllWords& allWords) {
   Findings ofLines;
   inspectEntries(file.lines, collation, ofLines, [&](const InspectedWords& words) {
     ++file.entries;
@@ -150,9 +149,12 @@ bool check(const std::vector<std::string>& files, const CheckOptions& options,
   std::deque<CheckedFile> checked;
   for (const std::string& name : files) {
     try {
-      const std::string bytes = readBytes(name, streams);
-      checked.emplace_back(name, GlossaryLines::ofBytes(bytes, collation));
-      inspectFile(bytes, options, collation, checked.back(), allWords);
+      std::string bytes = readBytes(name, streams);
+      Findings ofBytes;
+      const bool isUtf16 = inspectBytes(bytes, ofBytes);
+      checked.emplace_back(name, GlossaryLines::ofBytes(std::move(bytes), collation));
+      checked.back().findings = std::move(ofBytes);
+      inspectLines(isUtf16, options, collation, checked.back(), allWords);
     } catch (const Failure& failure) {
       messages.say(failure.what());
       allRead = false;

@@ -1,5 +1,6 @@
 #include "code_page_mender.h"
 
+#include <algorithm>
 #include <bitset>
 #include <string>
 
@@ -10,6 +11,7 @@ namespace termvik::tool {
 namespace {
 
 constexpr std::size_t kUnits = 0x10000;
+constexpr unsigned kFirstOther = 0x80;  // behind ASCII, which is in every code page
 
 bool isInCodePage(char16_t character) {
   return character == u'?' || windows1252::encode(character) != '?';
@@ -33,9 +35,16 @@ TextView firstCharacter(TextView text) {
 
 }  // namespace
 
-bool isPlainInCodePage(char16_t character) {
+bool isPlainInCodePage(TextView text) {
+  unsigned all = 0;
+  unsigned ends = 0;
+  for (const char16_t unit : text) {
+    all |= unit;
+    ends |= static_cast<unsigned>(unit == u'\r') | static_cast<unsigned>(unit == u'\n');
+  }
+  if (all < kFirstOther) return ends == 0;
   static const std::bitset<kUnits> plain = makePlain();
-  return plain[character];
+  return std::all_of(text.begin(), text.end(), [](char16_t unit) { return plain[unit]; });
 }
 
 Text inCodePage(TextView text, Place place, bool lossy, Messages& messages) {

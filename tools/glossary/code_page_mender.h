@@ -6,8 +6,8 @@
 
 namespace termvik::tool {
 
-// A character of the code page that ends no line.
-bool isPlainInCodePage(char16_t character);
+// All characters are in the code page, and none of them ends a line.
+bool isPlainInCodePage(TextView text);
 
 // `text` with `?` for each character that Windows-1252 lacks. Each is told with its place: as a
 // warning when it may become `?`, as an error otherwise.

@@ -79,7 +79,7 @@ void tellCounts(const std::vector<MergeCounts>& counts, Messages& messages) {
 
 }  // namespace
 
-void convert(const Options& options, const Collation& collation, Streams& streams,
+bool convert(const Options& options, const Collation& collation, Streams& streams,
              Messages& messages) {
   Output output(options.output, options.inputs, options.force, streams);
   TitleChoice title(options, collation);
@@ -96,9 +96,10 @@ void convert(const Options& options, const Collation& collation, Streams& stream
     counts = mergeEntries(list, options.inputs.size(), options.join, collation);
   }
   write(list, title.take(), options, collation, output, messages);
-  if (messages.anyError()) return;
+  if (messages.anyError()) return false;
   output.commit();
   tellCounts(counts, messages);
+  return true;
 }
 
 bool stats(const Options& options, const Collation& collation, Streams& streams,

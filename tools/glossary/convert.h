@@ -8,9 +8,9 @@
 
 namespace termvik::tool {
 
-// Writes the entries of all inputs into the output, unless something that must be told as an error
-// keeps them from it. Throws Failure.
-void convert(const Options& options, const Collation& collation, Streams& streams,
+// Writes the entries of all inputs into the output. False when something that is told as an error
+// keeps them from it: then nothing is written. Throws Failure.
+bool convert(const Options& options, const Collation& collation, Streams& streams,
              Messages& messages);
 
 // Prints the tables of all inputs. True when every one could be read.

@@ -21,10 +21,10 @@ constexpr std::size_t kPiece = 1U << 16U;
 
 std::string reason() { return errno == 0 ? "" : std::string(": ") + std::strerror(errno); }
 
-// What `readPiece(room)` gives until it gives no more bytes.
+// What `readPiece(room)` gives until it gives no more bytes; `size` of them are expected.
 template <class ReadPiece>
-std::string readAll(const std::string& name, ReadPiece readPiece) {
-  std::string bytes;
+std::string readAll(const std::string& name, std::size_t size, ReadPiece readPiece) {
+  std::string bytes(std::min(size, kMostBytes) + kPiece, '\0');
   for (std::size_t used = 0;;) {
     if (bytes.size() - used < kPiece) bytes.resize(used + std::max(used, kPiece));
     const std::size_t count = readPiece(std::span(bytes).subspan(used));
@@ -45,15 +45,18 @@ fs::path scratchBeside(const fs::path& target) {
 
 std::string readBytes(const std::string& name, Streams& streams) {
   if (name == kStandardStream) {
-    return readAll(name, [&](std::span<char> room) {
+    return readAll(name, 0, [&](std::span<char> room) {
       streams.in.read(room.data(), static_cast<std::streamsize>(room.size()));
       return static_cast<std::size_t>(streams.in.gcount());
     });
   }
+  const fs::path path = pathOf(name);
+  std::error_code error;
+  const std::uintmax_t size = fs::is_regular_file(path, error) ? fs::file_size(path, error) : 0;
   errno = 0;
-  const std::unique_ptr<File> file = disk().openToRead(pathOf(name));
+  const std::unique_ptr<File> file = disk().openToRead(path);
   if (!file) throw Failure(name + ": error: cannot be read" + reason());
-  return readAll(name, [&](std::span<char> room) {
+  return readAll(name, error ? 0 : size, [&](std::span<char> room) {
     const auto count = file->read(room);
     if (!count) throw Failure(name + ": error: cannot be read" + reason());
     return *count;

@@ -7,16 +7,16 @@
 
 #include "common/collation/collation.h"
 #include "files_in_out.h"
+#include "glossary_lines.h"
 #include "messages.h"
 #include "words.h"
 
 namespace termvik::tool {
 
-// Adds the entries that the program would show of a glossary whose lines may end as they like. What
-// it would not show is told. Gives the first line when it may stand at the beginning of another
-// glossary.
-std::optional<Text> readGlossary(TextView text, std::uint16_t input, const Collation& collation,
-                                 WordList& list, Messages& messages);
+// Adds the entries that the program would show of a glossary with these lines. What it would not
+// show is told. Gives the first line when it may stand at the beginning of another glossary.
+std::optional<Text> readGlossary(GlossaryLines glossaryLines, std::uint16_t input,
+                                 const Collation& collation, WordList& list, Messages& messages);
 
 // A line that is no word line, separator or comment head may be taken over from a glossary; one
 // that is in Windows-1252 as well may be given as a title.

@@ -1,8 +1,8 @@
 #include <memory>
+#include <utility>
+#include <vector>
 
-#include "glossary/cls_w_entry.h"
 #include "glossary/entry_lines.h"
-#include "glossary/entry_texts.h"
 #include "glossary_file.h"
 #include "glossary_lines.h"
 #include "inspect.h"
@@ -12,45 +12,46 @@ namespace termvik::tool {
 
 namespace {
 
-// A glossary in memory; the texts of its entries lie in it.
-struct Glossary {
-  explicit Glossary(GlossaryLines glossaryLines, const Collation& collation)
-      : lines(std::move(glossaryLines)), texts(collation, lines.table()) {}
+// Takes the words and the comment of an entry as the program does.
+class EntryReader {
+ public:
+  EntryReader(std::uint16_t input, const Collation& collation, WordList& list)
+      : input_(input), collation_(collation), list_(list), comment_(collation) {}
 
-  GlossaryLines lines;
-  EntryTexts texts;
-};
-
-// The lines of an entry that its words and the last line of its comment come from.
-struct Places {
-  std::vector<std::int32_t> words;
-  std::int32_t endOfComment = 0;
-
-  void word(std::int32_t line, TextView, char16_t) { words.push_back(line); }
-  void comment(std::int32_t line, TextView, bool) { endOfComment = line; }
+  void word(std::int32_t line, TextView text, char16_t wordType) {
+    if (text.empty()) return;
+    entry_.words.push_back({text, placeOf(line), languageOr(collation_, wordType)});
+  }
+  void comment(std::int32_t line, TextView text, bool isHead) {
+    comment_.add(text, isHead);
+    endOfComment_ = line;
+  }
   void passedOver(std::int32_t) {}
-};
 
-Entry entryOf(const clsWEntry& decoded, const Places& places, std::uint16_t input,
-              const Collation& collation, WordList& list) {
-  Entry entry;
-  entry.words.reserve(places.words.size());
-  for (std::size_t i = 0; i < places.words.size(); ++i) {
-    const auto index = static_cast<std::int32_t>(i) + 1;
-    const Place place{static_cast<std::uint32_t>(places.words[i]), input};
-    const TextView word = decoded.entryWord(index);
-    const char16_t type = languageOr(collation, decoded.entryType(index).front());
-    if (!word.empty()) entry.words.push_back({word, place, type});
+  // The entry, when all of its lines have been told.
+  Entry& finish() {
+    if (!comment_.text().empty()) addComment();
+    if (!entry_.words.empty()) entry_.place = entry_.words.front().place;
+    return entry_;
   }
-  if (!decoded.entryComment().empty()) {
-    const std::vector<TextView> lines = linesOf(decoded.entryComment());
-    const auto first = static_cast<std::size_t>(places.endOfComment) + 1 - lines.size();
-    const TextView text = lines.size() == 1 ? lines.front() : list.keep(joined(lines));
-    entry.comment.push_back({text, {static_cast<std::uint32_t>(first), input}});
+
+ private:
+  Place placeOf(std::int32_t line) const { return {static_cast<std::uint32_t>(line), input_}; }
+
+  void addComment() {
+    const std::vector<TextView> lines = linesOf(comment_.text());
+    const auto first = endOfComment_ + 1 - static_cast<std::int32_t>(lines.size());
+    const TextView text = lines.size() == 1 ? lines.front() : list_.keep(joined(lines));
+    entry_.comment.push_back({text, placeOf(first)});
   }
-  if (!entry.words.empty()) entry.place = entry.words.front().place;
-  return entry;
-}
+
+  std::uint16_t input_;
+  const Collation& collation_;
+  WordList& list_;
+  CommentLines comment_;
+  std::int32_t endOfComment_ = 0;
+  Entry entry_;
+};
 
 void tellWhatIsLost(const GlossaryLines& lines, std::uint16_t input, const Collation& collation,
                     Messages& messages) {
@@ -65,23 +66,19 @@ void tellWhatIsLost(const GlossaryLines& lines, std::uint16_t input, const Colla
 
 }  // namespace
 
-std::optional<Text> readGlossary(TextView text, std::uint16_t input, const Collation& collation,
-                                 WordList& list, Messages& messages) {
-  const auto glossary =
-      std::make_shared<Glossary>(GlossaryLines::ofText(text, collation), collation);
-  const LineTable& table = glossary->lines.table();
-  tellWhatIsLost(glossary->lines, input, collation, messages);
-  for (std::int32_t line = 1;;) {
-    clsWEntry decoded(glossary->texts);
-    LineRange range{line, line};
-    if (!findEntry(table, range) || !decoded.decodeEntry(table, line)) break;
-    Places places;
-    visitEntry(table, range, places);
-    Entry entry = entryOf(decoded, places, input, collation, list);
+std::optional<Text> readGlossary(GlossaryLines glossaryLines, std::uint16_t input,
+                                 const Collation& collation, WordList& list, Messages& messages) {
+  const auto lines = std::make_shared<const GlossaryLines>(std::move(glossaryLines));
+  list.keepOwner(lines);
+  tellWhatIsLost(*lines, input, collation, messages);
+  const LineTable& table = lines->table();
+  for (LineRange range{1, 1}; findEntry(table, range); range.first = range.last + 1) {
+    EntryReader reader(input, collation, list);
+    visitEntry(table, range, reader);
+    Entry& entry = reader.finish();
     if (!entry.words.empty()) list.entries.push_back(std::move(entry));
-    messages.progress("reading", static_cast<std::size_t>(line), table.size());
+    messages.progress("reading", static_cast<std::size_t>(range.last), table.size());
   }
-  list.keepOwner(glossary);
   if (table.size() == 0 || !isFirstLine(collation, table[1])) return std::nullopt;
   return Text(table[1]);
 }

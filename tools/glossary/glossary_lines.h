@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "common/collation/collation.h"
@@ -13,10 +14,11 @@ namespace termvik::tool {
 class GlossaryLines {
  public:
   // The lines as the program finds them in the bytes of a file.
-  static GlossaryLines ofBytes(const std::string& bytes, const Collation& collation);
+  static GlossaryLines ofBytes(std::string bytes, const Collation& collation);
 
-  // The lines of a text, ended by CR LF, LF or CR.
+  // The lines of a text, or of bytes in Windows-1252, ended by CR LF, LF or CR.
   static GlossaryLines ofText(TextView text, const Collation& collation);
+  static GlossaryLines ofWindows1252(std::string_view bytes, const Collation& collation);
 
   const LineTable& table() const { return table_; }
 

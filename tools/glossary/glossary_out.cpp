@@ -15,8 +15,6 @@ std::size_t rankOf(char16_t wordType) {
   return std::min(kLanguages.find(wordType), kLanguages.size());
 }
 
-bool isPlain(TextView text) { return std::all_of(text.begin(), text.end(), isPlainInCodePage); }
-
 // Brings entries into what the format can hold.
 class Mender {
  public:
@@ -26,18 +24,22 @@ class Mender {
   void mend(Entry& entry) {
     for (Word& word : entry.words) mendWord(word);
     std::erase_if(entry.words, [](const Word& word) { return word.text.empty(); });
-    std::stable_sort(entry.words.begin(), entry.words.end(),
-                     [](const Word& a, const Word& b) { return rankOf(a.type) < rankOf(b.type); });
+    const auto isAhead = [](const Word& a, const Word& b) {
+      return rankOf(a.type) < rankOf(b.type);
+    };
+    if (!std::is_sorted(entry.words.begin(), entry.words.end(), isAhead)) {
+      std::stable_sort(entry.words.begin(), entry.words.end(), isAhead);
+    }
     if (!entry.comment.empty()) mendComment(entry);
   }
 
  private:
   void mendWord(Word& word) {
     word.text = trimEnd(word.text);
-    if (!isPlainInCodePage(word.type)) {
+    if (!isPlainInCodePage({&word.type, 1})) {
       word.type = inCodePage({&word.type, 1}, word.place, lossy_, messages_).front();
     }
-    if (isPlain(word.text)) return;
+    if (isPlainInCodePage(word.text)) return;
     if (word.text.find_first_of(kLineEnd) != TextView::npos) {
       messages_.tell(Severity::Warning, word.place,
                      "the line end in " + inQuotes(word.text) + " becomes a blank");
@@ -48,6 +50,10 @@ class Mender {
 
   // All pieces become one, of lines that neither end the entry nor begin a new comment.
   void mendComment(Entry& entry) {
+    TextView& first = entry.comment.front().text;
+    first = trimEnd(first);
+    const bool isOneLine = entry.comment.size() == 1 && isPlainInCodePage(first);
+    if (isOneLine && !collation_.isEmpty(first)) return;
     Text all;
     bool any = false;
     for (const CommentPiece& piece : entry.comment) {
@@ -68,7 +74,8 @@ class Mender {
 
   // The first line of a comment stands behind its mark, where it can be anything.
   Text mendedLine(TextView plain, Place place, bool isFirst) {
-    Text line = isPlain(plain) ? Text(plain) : inCodePage(plain, place, lossy_, messages_);
+    Text line =
+        isPlainInCodePage(plain) ? Text(plain) : inCodePage(plain, place, lossy_, messages_);
     const LineKind kind = lines_.kindOf(line);
     if (isFirst || (kind != LineKind::Separator && kind != LineKind::CommentHead)) return line;
     const bool ends = kind == LineKind::Separator;
@@ -85,8 +92,31 @@ class Mender {
   Messages& messages_;
 };
 
+// Nearly all texts are ASCII, which the compiler narrows many characters at a time.
 void append(std::string& bytes, TextView text) {
-  for (const char16_t character : text) bytes += windows1252::encode(character);
+  const std::size_t size = bytes.size();
+  bytes.resize(size + text.size());
+  char* const out = &bytes[size];
+  unsigned all = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    out[i] = static_cast<char>(text[i]);
+    all |= text[i];
+  }
+  if (all >= windows1252::kFirstSpecial) {
+    std::transform(text.begin(), text.end(), out, windows1252::encode);
+  }
+}
+
+// Blanks behind the mark would be lost, those of a line of its own stay.
+void appendComment(std::string& bytes, TextView comment) {
+  append(bytes, comment.starts_with(u' ') ? u"C:\r\n" : u"C: ");
+  for (std::size_t end = comment.find(u'\n'); end != TextView::npos; end = comment.find(u'\n')) {
+    append(bytes, comment.substr(0, end));
+    append(bytes, kLineEnd);
+    comment.remove_prefix(end + 1);
+  }
+  append(bytes, comment);
+  append(bytes, kLineEnd);
 }
 
 void appendEntry(std::string& bytes, const Entry& entry) {
@@ -96,14 +126,7 @@ void appendEntry(std::string& bytes, const Entry& entry) {
     append(bytes, word.text);
     append(bytes, kLineEnd);
   }
-  const std::vector<TextView> comment =
-      entry.comment.empty() ? std::vector<TextView>() : linesOf(entry.comment.front().text);
-  for (std::size_t i = 0; i < comment.size(); ++i) {
-    // Blanks behind the mark would be lost, those of a line of its own stay.
-    if (i == 0) append(bytes, comment[0].starts_with(u' ') ? u"C:\r\n" : u"C: ");
-    append(bytes, comment[i]);
-    append(bytes, kLineEnd);
-  }
+  if (!entry.comment.empty()) appendComment(bytes, entry.comment.front().text);
   append(bytes, u"---\r\n");
 }
 
@@ -115,13 +138,13 @@ bool isFirstLine(const Collation& collation, TextView line) {
 }
 
 bool isTitle(const Collation& collation, TextView title) {
-  return isPlain(title) && isFirstLine(collation, title);
+  return isPlainInCodePage(title) && isFirstLine(collation, title);
 }
 
 Text titleOfFile(const Collation& collation, TextView fileName) {
   Text title;
   for (const char16_t character : fileName) {
-    title += isPlainInCodePage(character) ? character : u'?';
+    title += isPlainInCodePage({&character, 1}) ? character : u'?';
   }
   if (title.size() > 1 && title[1] == u':') title[1] = u' ';
   return isTitle(collation, title) ? title : u' ' + title;
@@ -129,7 +152,8 @@ Text titleOfFile(const Collation& collation, TextView fileName) {
 
 void mendForGlossary(WordList& list, Title& title, bool lossy, const Collation& collation,
                      Messages& messages) {
-  if (!isPlain(title.text)) title.text = inCodePage(title.text, title.place, lossy, messages);
+  if (!isPlainInCodePage(title.text))
+    title.text = inCodePage(title.text, title.place, lossy, messages);
   Mender mender(list, lossy, collation, messages);
   for (Entry& entry : list.entries) mender.mend(entry);
   dropWordless(list, messages);

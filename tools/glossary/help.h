@@ -33,8 +33,8 @@ Formats, by the ending of a file's name or by --from and --to:
   tbx        .tbx .xml    TermBase eXchange
   omegat     .utf8        a translation tool's glossary: source, target, comment
 
-Exit status: 0 all is well; 1 there is an error or a warning; 2 wrong usage, or
-a file that cannot be read or written.
+Exit status: 0 all is well; 1 there is an error or a warning; 2 wrong usage, a
+file that cannot be read or written, or nothing was written for another reason.
 
 Example:
   termvik-glossary convert words.csv toolsword.txt

@@ -24,7 +24,10 @@ Key keyOf(char16_t type, std::uint32_t wordClass) { return Key{type} << kClassBi
 char16_t typeOf(Key key) { return static_cast<char16_t>(key >> kClassBits); }
 
 // Line ends of all kinds count alike.
-Text plainComment(const Entry& entry) { return joined(linesOf(commentText(entry))); }
+Text plainComment(const Entry& entry) {
+  Text room;
+  return joined(linesOf(commentText(entry, room)));
+}
 
 // What equal entries have in common: their words as sets, and their comment.
 Text identity(Keys keys, const Entry& entry) {

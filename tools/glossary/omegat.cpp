@@ -75,12 +75,12 @@ void readOmegaT(const Text& text, std::uint16_t input, const ReadOptions& option
         list.entries.back().words.front().text != source) {
       Entry& entry = list.entries.emplace_back();
       entry.place = place;
-      entry.words.push_back({list.keep(source), place, options.source});
-      if (!comment.empty()) entry.comment.push_back({list.keep(comment), place});
+      entry.words.push_back({source, place, options.source});
+      if (!comment.empty()) entry.comment.push_back({comment, place});
     }
     std::vector<Word>& words = list.entries.back().words;
     const bool again = words.size() > 1 && words.back().text == target;
-    if (!again) words.push_back({list.keep(target), place, options.target});
+    if (!again) words.push_back({target, place, options.target});
   }
 }
 
@@ -94,9 +94,10 @@ void writeOmegaT(const WordList& list, const ReadOptions& options, Utf8Output& o
     }
     const std::vector<Text> sources = cellsOf(entry, options.source, messages);
     const std::vector<Text> targets = cellsOf(entry, options.target, messages);
-    const Text comment = entry.comment.empty()
-                             ? Text()
-                             : cellOf(commentText(entry), entry.comment.front().place, messages);
+    Text room;
+    const Text comment = entry.comment.empty() ? Text()
+                                               : cellOf(commentText(entry, room),
+                                                        entry.comment.front().place, messages);
     for (const Text& source : sources) {
       for (const Text& target : targets) {
         out << source << u"\t" << target;

@@ -8,6 +8,7 @@
 
 namespace termvik::tool {
 
+// The texts of the entries lie in `text`.
 void readOmegaT(const Text& text, std::uint16_t input, const ReadOptions& options, WordList& list,
                 Messages& messages);
 

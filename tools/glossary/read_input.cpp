@@ -18,9 +18,17 @@ std::optional<Text> readInput(std::uint16_t input, Format format, const ReadOpti
     readTbx(bytes, input, options.encoding, list, messages);
     return std::nullopt;
   }
-  const Text text = decodeText(bytes, options.encoding, name);
+  if (format == Format::Glossary) {
+    const bool isPlain = encodingOf(bytes, options.encoding) == Encoding::Windows1252;
+    return readGlossary(
+        isPlain ? GlossaryLines::ofWindows1252(bytes, collation)
+                : GlossaryLines::ofText(decodeText(bytes, options.encoding, name), collation),
+        input, collation, list, messages);
+  }
+  const auto owned = std::make_shared<const Text>(decodeText(bytes, options.encoding, name));
+  list.keepOwner(owned);
+  const Text& text = *owned;
   std::string().swap(bytes);
-  if (format == Format::Glossary) return readGlossary(text, input, collation, list, messages);
   if (format == Format::OmegaT) {
     readOmegaT(text, input, options, list, messages);
   } else {

@@ -9,7 +9,8 @@
 
 namespace termvik::tool {
 
-// Adds the rows of a table as entries. Throws Failure for what is no such table.
+// Adds the rows of a table as entries, whose texts lie in `text`. Throws Failure for what is no
+// such table.
 void readTable(const Text& text, std::uint16_t input, const ReadOptions& options,
                char16_t delimiter, const Collation& collation, WordList& list, Messages& messages);
 

@@ -72,15 +72,22 @@ void TableReader::warnOfCellsBehind(const Row& row) {
 }
 
 void TableReader::addWords(const Cell& cell, char16_t type, Entry& entry) {
-  const auto add = [&](TextView word) {
+  const auto add = [&](TextView word, bool lasts) {
     word = trim(word);
-    if (!word.empty()) entry.words.push_back({list_.keep(word), {cell.line, input_}, type});
+    if (word.empty()) return;
+    entry.words.push_back({lasts ? word : list_.keep(word), {cell.line, input_}, type});
   };
-  if (cell.text.find(u'|') == TextView::npos) {
-    add(cell.text);
-  } else {
-    for (const Text& word : wordsOfCell(cell.text)) add(word);
+  TextView rest = cell.text;
+  std::size_t end = rest.find(u'|');
+  if (end != TextView::npos && rest.find(u'\\') != TextView::npos) {
+    for (const Text& word : wordsOfCell(rest)) add(word, false);
+    return;
   }
+  for (; end != TextView::npos; end = rest.find(u'|')) {
+    add(rest.substr(0, end), cell.lasts);
+    rest.remove_prefix(end + 1);
+  }
+  add(rest, cell.lasts);
 }
 
 void TableReader::add(const Row& row) {
@@ -91,7 +98,8 @@ void TableReader::add(const Row& row) {
     const Cell& cell = row.cells[i];
     if (columns_[i] == Column::None || cell.text.empty()) continue;
     if (columns_[i] == Column::Comment) {
-      entry.comment.push_back({list_.keep(cell.text), {cell.line, input_}});
+      const TextView text = cell.lasts ? cell.text : list_.keep(cell.text);
+      entry.comment.push_back({text, {cell.line, input_}});
     } else {
       addWords(cell, letterOf(columns_[i]), entry);
     }

@@ -25,13 +25,19 @@ Text usedColumns(const WordList& list) {
   return used.empty() ? Text(kColumns) : used;
 }
 
-Text cellOf(const Entry& entry, char16_t column) {
-  if (column == letterOf(Column::Comment)) return commentText(entry);
-  Text cell;
+// What stands in a cell; it lies in `room` where it does not lie in the entry as it is.
+TextView cellOf(const Entry& entry, char16_t column, Text& room) {
+  if (column == letterOf(Column::Comment)) return commentText(entry, room);
+  const auto isOfIt = [column](const Word& word) { return word.type == column; };
+  const auto first = std::find_if(entry.words.begin(), entry.words.end(), isOfIt);
+  if (first == entry.words.end()) return {};
+  const bool isOnly = std::none_of(first + 1, entry.words.end(), isOfIt);
+  if (isOnly && first->text.find(u'|') == TextView::npos) return first->text;
+  room.clear();
   for (const Word& word : entry.words) {
-    if (word.type == column) appendWordToCell(cell, word.text);
+    if (isOfIt(word)) appendWordToCell(room, word.text);
   }
-  return cell;
+  return room;
 }
 
 }  // namespace
@@ -64,11 +70,12 @@ void writeTable(const WordList& list, char16_t delimiter, TextView lineEnd, Utf8
     row += column;
   }
   out << row.append(lineEnd);
+  Text room;
   for (const Entry& entry : list.entries) {
     row.clear();
     for (std::size_t i = 0; i < columns.size(); ++i) {
       if (i > 0) row += delimiter;
-      appendCell(row, cellOf(entry, columns[i]), delimiter);
+      appendCell(row, cellOf(entry, columns[i], room), delimiter);
     }
     out << row.append(lineEnd);
   }

@@ -55,11 +55,11 @@ char16_t wordTypeOf(std::string_view language) {
 
 class TbxHandler : public XmlHandler {
  public:
-  TbxHandler(std::uint16_t input, std::size_t size, WordList& list, Messages& messages)
-      : input_(input), size_(size), list_(list), messages_(messages) {}
+  TbxHandler(std::uint16_t input, std::string_view bytes, WordList& list, Messages& messages)
+      : input_(input), size_(bytes.size()), lines_(bytes), list_(list), messages_(messages) {}
 
   void begin(std::string_view element, const Attributes& attributes) override;
-  void end(std::string_view element) override;
+  void end() override;
   void text(std::string_view utf8) override {
     if (collecting_ != Collecting::Nothing) text_.append(utf8);
   }
@@ -77,54 +77,64 @@ class TbxHandler : public XmlHandler {
  private:
   enum class Collecting : std::uint8_t { Nothing, Term, Comment };
 
-  Place here() const { return {line, input_}; }
+  // A language of the file by its first part. Words of one that the program lacks are counted.
+  struct Language {
+    char16_t wordType = u'\0';
+    Place firstWord;
+    std::size_t words = 0;
+  };
+  using Languages = std::map<std::string, Language, std::less<>>;
+
+  Languages::iterator languageNamed(std::string_view tag) {
+    std::string name = firstPart(tag);
+    const char16_t wordType = wordTypeOf(name);
+    return languages_.insert({std::move(name), {wordType, {}, 0}}).first;
+  }
+
+  Place here() { return {lines_.lineOf(offset), input_}; }
   void endCollecting();
   void endConcept();
 
   std::uint16_t input_;
   std::size_t size_;
+  LineCount lines_;
   WordList& list_;
   Messages& messages_;
   bool isTbx_ = false;
-  std::vector<std::string> languages_;  // of the open elements: each has its own or its parent's
-  std::size_t conceptDepth_ = 0;        // of the open concept; 0 when there is none
+  Languages languages_;
+  std::vector<Language*> open_;   // of the open elements: each has its own or its parent's
+  std::size_t conceptDepth_ = 0;  // of the open concept; 0 when there is none
   Entry entry_;
   Collecting collecting_ = Collecting::Nothing;
   std::size_t collectingDepth_ = 0;
   Place collectingPlace_;
   std::string text_;
-
-  struct Others {
-    Place first;
-    std::size_t count = 0;
-  };
-  std::map<std::string, Others> otherLanguages_;
 };
 
 void TbxHandler::begin(std::string_view element, const Attributes& attributes) {
-  if (languages_.empty()) isTbx_ = isRoot(element);
+  if (open_.empty()) isTbx_ = isRoot(element);
   const std::string_view language = attributes["lang"];
-  std::string inherited = languages_.empty() ? "" : languages_.back();
-  languages_.push_back(language.empty() ? std::move(inherited) : firstPart(language));
+  const bool inherits = language.empty() && !open_.empty();
+  open_.push_back(inherits ? open_.back() : &languageNamed(language)->second);
   if (conceptDepth_ == 0 && isConcept(element)) {
     isTbx_ = isTbx_ || element != "entry";  // many an XML that is no TBX has one of these
-    conceptDepth_ = languages_.size();
+    conceptDepth_ = open_.size();
     entry_ = {.place = here(), .words = {}, .comment = {}};
   }
   if (conceptDepth_ == 0 || collecting_ != Collecting::Nothing) return;
   if (element == "term") collecting_ = Collecting::Term;
   if (isComment(element, attributes)) collecting_ = Collecting::Comment;
   if (collecting_ == Collecting::Nothing) return;
-  collectingDepth_ = languages_.size();
+  collectingDepth_ = open_.size();
   collectingPlace_ = here();
   text_.clear();
 }
 
-void TbxHandler::end(std::string_view) {
-  const std::size_t depth = languages_.size();
+void TbxHandler::end() {
+  const std::size_t depth = open_.size();
   if (collecting_ != Collecting::Nothing && depth == collectingDepth_) endCollecting();
   if (depth == conceptDepth_) endConcept();
-  languages_.pop_back();
+  open_.pop_back();
 }
 
 void TbxHandler::endCollecting() {
@@ -133,20 +143,19 @@ void TbxHandler::endCollecting() {
   if (text.empty()) return;
   const auto begin = text_.begin() + (text.data() - text_.data());
   collectingPlace_.line += static_cast<std::uint32_t>(std::count(text_.begin(), begin, '\n'));
-  const std::string& language = languages_.back();
-  const char16_t type = wordTypeOf(language);
+  Language& language = *open_.back();
   if (!isTerm) {
-    entry_.comment.push_back({list_.keep(fromUtf8(text)), collectingPlace_});
-  } else if (type != u'\0') {
-    entry_.words.push_back({list_.keep(fromUtf8(text)), collectingPlace_, type});
-  } else if (Others& others = otherLanguages_[language]; ++others.count == 1) {
-    others.first = collectingPlace_;
+    entry_.comment.push_back({list_.keepUtf8(text), collectingPlace_});
+  } else if (language.wordType != u'\0') {
+    entry_.words.push_back({list_.keepUtf8(text), collectingPlace_, language.wordType});
+  } else if (++language.words == 1) {
+    language.firstWord = collectingPlace_;
   }
 }
 
 void TbxHandler::endConcept() {
   conceptDepth_ = 0;
-  messages_.progress("reading", bytesDone, size_);
+  messages_.progress("reading", offset, size_);
   if (entry_.words.empty()) {
     messages_.tell(Severity::Note, entry_.place,
                    "the concept has no word in sv, en, de or fr and is passed over");
@@ -156,13 +165,25 @@ void TbxHandler::endConcept() {
 }
 
 void TbxHandler::finish() {
-  for (const auto& [language, others] : otherLanguages_) {
+  for (const auto& [name, language] : languages_) {
+    if (language.words == 0) continue;
     const std::string of =
-        language.empty() ? "without a language" : "of the language " + inQuotes(fromUtf8(language));
-    messages_.tell(Severity::Warning, others.first,
-                   counted(others.count, "word ", "words ") + of +
-                       (others.count == 1 ? " is" : " are") + " passed over");
+        name.empty() ? "without a language" : "of the language " + inQuotes(fromUtf8(name));
+    messages_.tell(Severity::Warning, language.firstWord,
+                   counted(language.words, "word ", "words ") + of +
+                       (language.words == 1 ? " is" : " are") + " passed over");
   }
+}
+
+// The encoding that the first bytes of an XML file in UTF-16 tell, with a mark or without.
+std::optional<Encoding> utf16Of(std::string_view bytes) {
+  if (bytes.starts_with(std::string_view("<\0", 2))) return Encoding::Utf16Le;
+  if (bytes.starts_with(std::string_view("\0<", 2))) return Encoding::Utf16Be;
+  return byteOrderMark(bytes).encoding;
+}
+
+bool isUtf16(std::optional<Encoding> encoding) {
+  return encoding == Encoding::Utf16Le || encoding == Encoding::Utf16Be;
 }
 
 }  // namespace
@@ -170,7 +191,13 @@ void TbxHandler::finish() {
 void readTbx(std::string_view bytes, std::uint16_t input, std::optional<Encoding> encoding,
              WordList& list, Messages& messages) {
   const std::string& name = messages.inputName(input);
-  TbxHandler handler(input, bytes.size(), list, messages);
+  std::string utf8;  // of a file in UTF-16, so that a line end is one byte in every file
+  if (const auto known = encoding ? encoding : utf16Of(bytes); isUtf16(known)) {
+    utf8 = toUtf8(decodeText(bytes, known, name));
+    bytes = utf8;
+    encoding = Encoding::Utf8;
+  }
+  TbxHandler handler(input, bytes, list, messages);
   readXml(bytes, encoding, name, handler);
   if (!handler.isTbx()) throw Failure(placeText(name, 1) + "error: this XML is no TBX");
   handler.finish();

@@ -122,11 +122,12 @@ void mendForTbx(WordList& list, Messages& messages) {
 void writeTbx(const WordList& list, Utf8Output& out) {
   out << kBegin;
   Text xml;
+  Text room;
   std::size_t number = 0;
   for (const Entry& entry : list.entries) {
     xml.assign(u"<conceptEntry id=\"c").append(fromUtf8(std::to_string(++number)));
     xml.append(u"\">\n");
-    if (const Text comment = commentText(entry); !comment.empty()) {
+    if (const TextView comment = commentText(entry, room); !comment.empty()) {
       xml.append(u"<note>");
       appendEscaped(xml, comment);
       xml.append(u"</note>\n");

@@ -22,6 +22,16 @@ constexpr std::array<Name, 3> kMarks{{{"\xEF\xBB\xBF", Encoding::Utf8},
                                       {"\xFF\xFE", Encoding::Utf16Le},
                                       {"\xFE\xFF", Encoding::Utf16Be}}};
 
+constexpr std::array<char16_t, 256> makeDecoded() {
+  std::array<char16_t, 256> decoded{};
+  for (std::size_t byte = 0; byte < decoded.size(); ++byte) {
+    decoded[byte] = windows1252::decode(static_cast<unsigned char>(byte));
+  }
+  return decoded;
+}
+
+constexpr std::array<char16_t, 256> kDecoded = makeDecoded();
+
 Text fromUtf16(std::string_view bytes, bool littleEndian) {
   Text text(bytes.size() / 2, u'\0');
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -30,13 +40,6 @@ Text fromUtf16(std::string_view bytes, bool littleEndian) {
     const unsigned unit = littleEndian ? second << 8U | first : first << 8U | second;
     text[i] = static_cast<char16_t>(unit);
   }
-  return text;
-}
-
-Text fromWindows1252(std::string_view bytes) {
-  Text text(bytes.size(), u'\0');
-  std::transform(bytes.begin(), bytes.end(), text.begin(),
-                 [](char byte) { return windows1252::decode(static_cast<unsigned char>(byte)); });
   return text;
 }
 
@@ -72,7 +75,26 @@ ByteOrderMark byteOrderMark(std::string_view bytes) {
   return {};
 }
 
+void decodeWindows1252(std::string_view bytes, Text& text) {
+  text.resize(bytes.size());
+  std::transform(bytes.begin(), bytes.end(), text.begin(),
+                 [](char byte) { return kDecoded[static_cast<unsigned char>(byte)]; });
+}
+
+std::uint32_t LineCount::lineOf(std::size_t offset) {
+  if (offset <= counted_) return line_;
+  const std::string_view passed = bytes_.substr(counted_, offset - counted_);
+  auto ends = std::count(passed.begin(), passed.end(), '\n');
+  for (std::size_t cr = passed.find('\r'); cr < passed.size(); cr = passed.find('\r', cr + 1)) {
+    if (!bytes_.substr(counted_ + cr + 1).starts_with('\n')) ++ends;
+  }
+  line_ += static_cast<std::uint32_t>(ends);
+  counted_ = offset;
+  return line_;
+}
+
 bool looksLikeUtf16(std::string_view bytes) {
+  if (bytes.find('\0') == std::string_view::npos) return false;
   std::array<std::size_t, 2> nuls{};
   for (std::size_t i = 0; i < bytes.size(); ++i) nuls.at(i % 2) += bytes[i] == '\0' ? 1 : 0;
   const std::size_t pairs = bytes.size() / 2;
@@ -80,14 +102,20 @@ bool looksLikeUtf16(std::string_view bytes) {
   return pairs > 1 && 2 * more > pairs && 10 * fewer < more;
 }
 
-Text decodeText(std::string_view bytes, std::optional<Encoding> encoding, const std::string& name) {
+Encoding encodingOf(std::string_view bytes, std::optional<Encoding> encoding) {
+  if (!encoding) encoding = byteOrderMark(bytes).encoding;
+  if (encoding) return *encoding;
+  return isUtf8(bytes) ? Encoding::Utf8 : Encoding::Windows1252;
+}
+
+Text decodeText(std::string_view bytes, std::optional<Encoding> chosen, const std::string& name) {
   const ByteOrderMark mark = byteOrderMark(bytes);
-  if (!encoding || encoding == mark.encoding) bytes.remove_prefix(mark.length);
-  if (!encoding) encoding = mark.encoding;
-  switch (encoding.value_or(Encoding::Utf8)) {
+  const Encoding encoding = encodingOf(bytes, chosen);
+  const bool isFound = !chosen && !mark.encoding;  // by a look at all bytes
+  if (encoding == mark.encoding) bytes.remove_prefix(mark.length);
+  switch (encoding) {
     case Encoding::Utf8:
-      if (isUtf8(bytes)) return fromUtf8(bytes);
-      if (!encoding) break;
+      if (isFound || isUtf8(bytes)) return fromUtf8(bytes);
       throw Failure(placeText(name, firstBadLine(bytes)) + "error: this is no UTF-8");
     case Encoding::Utf16Le:
     case Encoding::Utf16Be:
@@ -96,7 +124,9 @@ Text decodeText(std::string_view bytes, std::optional<Encoding> encoding, const 
     case Encoding::Windows1252:
       break;
   }
-  return fromWindows1252(bytes);
+  Text text;
+  decodeWindows1252(bytes, text);
+  return text;
 }
 
 }  // namespace termvik::tool

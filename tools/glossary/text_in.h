@@ -22,8 +22,26 @@ struct ByteOrderMark {
 };
 ByteOrderMark byteOrderMark(std::string_view bytes);
 
+// The lines of a text, as editors count them: asked for places that rise.
+class LineCount {
+ public:
+  explicit LineCount(std::string_view bytes) : bytes_(bytes) {}
+
+  std::uint32_t lineOf(std::size_t offset);
+
+ private:
+  std::string_view bytes_;
+  std::size_t counted_ = 0;
+  std::uint32_t line_ = 1;
+};
+
 // UTF-16 without a mark: half of the pairs of bytes, or more, have a NUL on one and the same side.
 bool looksLikeUtf16(std::string_view bytes);
+
+void decodeWindows1252(std::string_view bytes, Text& text);
+
+// What decodeText() takes `bytes` for.
+Encoding encodingOf(std::string_view bytes, std::optional<Encoding> encoding);
 
 // A mark decides, else what is well-formed UTF-8 is that, and all else Windows-1252; `encoding`
 // overrules. `name` is the file's for the Failure that is thrown when the bytes are not what they

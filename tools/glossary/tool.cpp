@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kFailed = 2;
 
-// True when there is a result for every input.
+// True when there is a result, of every input.
 bool run(const Options& options, const Collation& collation, Streams& streams, Messages& messages) {
   switch (options.command) {
     case Command::Check:
@@ -23,8 +23,7 @@ bool run(const Options& options, const Collation& collation, Streams& streams, M
       return stats(options, collation, streams, messages);
     case Command::Convert:
     case Command::Merge:
-      convert(options, collation, streams, messages);
-      return true;
+      return convert(options, collation, streams, messages);
   }
   return false;
 }

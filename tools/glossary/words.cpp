@@ -6,25 +6,40 @@ namespace termvik::tool {
 
 namespace {
 
-constexpr TextView kLineEnds = u"\r\n";
+constexpr bool endsLine(char16_t character) { return character == u'\n' || character == u'\r'; }
 
 // How many characters the line end at the beginning of `text` has.
-std::size_t lineEndLength(TextView text) { return text.starts_with(kLineEnd) ? 2 : 1; }
+template <class View>
+std::size_t lineEndLength(View text) {
+  return text.size() > 1 && text[0] == '\r' && text[1] == '\n' ? 2 : 1;
+}
 
-}  // namespace
-
-bool takeLine(TextView& text, TextView& line) {
+template <class View>
+bool takeLineOf(View& text, View& line) {
   if (text.empty()) return false;
-  const std::size_t end = std::min(text.find_first_of(kLineEnds), text.size());
-  line = text.substr(0, end);
-  text.remove_prefix(end);
+  line = View(text.begin(), std::find_if(text.begin(), text.end(), endsLine));
+  text.remove_prefix(line.size());
   if (!text.empty()) text.remove_prefix(lineEndLength(text));
   return true;
 }
 
+}  // namespace
+
+// Most words are ASCII, for which the text library has much ado with each.
+TextView WordList::keepUtf8(std::string_view utf8) {
+  const auto isAscii = [](char byte) { return static_cast<signed char>(byte) >= 0; };
+  if (!std::all_of(utf8.begin(), utf8.end(), isAscii)) return keep(fromUtf8(utf8));
+  ascii_.assign(utf8.begin(), utf8.end());
+  return keep(ascii_);
+}
+
+bool takeLine(TextView& text, TextView& line) { return takeLineOf(text, line); }
+
+bool takeLine(std::string_view& bytes, std::string_view& line) { return takeLineOf(bytes, line); }
+
 std::vector<TextView> linesOf(TextView text) {
   std::vector<TextView> lines;
-  const bool opensOneMore = text.empty() || kLineEnds.find(text.back()) != TextView::npos;
+  const bool opensOneMore = text.empty() || endsLine(text.back());
   for (TextView line; takeLine(text, line);) lines.push_back(line);
   if (opensOneMore) lines.emplace_back();
   return lines;
@@ -33,7 +48,7 @@ std::vector<TextView> linesOf(TextView text) {
 Text inOneLine(TextView text, TextView others) {
   Text result;
   while (!text.empty()) {
-    const bool ends = kLineEnds.find(text.front()) != TextView::npos;
+    const bool ends = endsLine(text.front());
     const bool isOther = others.find(text.front()) != TextView::npos;
     result += ends || isOther ? u' ' : text.front();
     text.remove_prefix(ends ? lineEndLength(text) : 1);
@@ -55,10 +70,13 @@ bool hasWord(const Entry& entry, char16_t type) {
                      [type](const Word& word) { return word.type == type; });
 }
 
-Text commentText(const Entry& entry) {
+TextView commentText(const Entry& entry, Text& room) {
+  if (entry.comment.empty()) return {};
+  if (entry.comment.size() == 1) return entry.comment.front().text;
   std::vector<TextView> pieces;
   for (const CommentPiece& piece : entry.comment) pieces.push_back(piece.text);
-  return joined(pieces);
+  room = joined(pieces);
+  return room;
 }
 
 }  // namespace termvik::tool

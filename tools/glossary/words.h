@@ -43,8 +43,8 @@ struct Entry {
 
 bool hasWord(const Entry& entry, char16_t type);
 
-// The pieces of a comment as one text, joined by LF.
-Text commentText(const Entry& entry);
+// The pieces of a comment as one text, joined by LF; it lies in `room` when there are several.
+TextView commentText(const Entry& entry, Text& room);
 
 struct WordList {
   std::vector<Entry> entries;
@@ -52,17 +52,21 @@ struct WordList {
   // A copy of `text` that stays as long as the list.
   TextView keep(TextView text) { return {texts_.add(text), text.size()}; }
 
+  TextView keepUtf8(std::string_view utf8);
+
   // Texts of the entries may lie in `owner`, which stays as long as the list.
   void keepOwner(std::shared_ptr<const void> owner) { owners_.push_back(std::move(owner)); }
 
  private:
   TextArena<char16_t> texts_;
+  Text ascii_;  // room for keepUtf8
   std::vector<std::shared_ptr<const void>> owners_;
 };
 
 // Takes the next line off `text`: it ends at CR LF, LF or CR, which go as well. False when the text
 // is used up. A line end that is the last thing opens no further line.
 bool takeLine(TextView& text, TextView& line);
+bool takeLine(std::string_view& bytes, std::string_view& line);
 
 // All lines of a text. Here a line end that is the last thing does open one more, an empty one.
 std::vector<TextView> linesOf(TextView text);

@@ -15,12 +15,18 @@ namespace termvik::tool {
 
 namespace {
 
-constexpr std::size_t kPiece = 1U << 20U;  // bytes parsed at a time
+// Bytes parsed at a time: the parser copies them, and what is that small stays in the cache.
+constexpr std::size_t kPiece = 1U << 16U;
 
 using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)>;
 
-std::string_view localName(std::string_view name) {
-  return name.substr(name.find(':') + 1);  // all of it when there is no prefix
+// Without its prefix, if it has one.
+std::string_view localName(const char* name) {
+  const char* end = name;
+  for (; *end != '\0'; ++end) {
+    if (*end == ':') name = end + 1;
+  }
+  return {name, static_cast<std::size_t>(end - name)};
 }
 
 // The line that the parser is at. Newer versions of expat have one function for it, older ones
@@ -41,7 +47,7 @@ struct Reading {
   static Reading& of(void* data) { return *static_cast<Reading*>(data); }
   static Reading& at(void* data) {
     Reading& reading = of(data);
-    reading.handler.line = static_cast<std::uint32_t>(lineOf(reading.parser));
+    reading.handler.offset = static_cast<std::size_t>(XML_GetCurrentByteIndex(reading.parser));
     return reading;
   }
 };
@@ -50,9 +56,7 @@ void XMLCALL onBegin(void* data, const XML_Char* name, const XML_Char** pairs) {
   Reading::at(data).handler.begin(localName(name), XmlHandler::Attributes(pairs));
 }
 
-void XMLCALL onEnd(void* data, const XML_Char* name) {
-  Reading::of(data).handler.end(localName(name));
-}
+void XMLCALL onEnd(void* data, const XML_Char*) { Reading::of(data).handler.end(); }
 
 void XMLCALL onText(void* data, const XML_Char* text, int length) {
   Reading::of(data).handler.text({text, static_cast<std::size_t>(length)});
@@ -117,7 +121,6 @@ void readXml(std::string_view bytes, std::optional<Encoding> encoding, const std
   do {
     const std::string_view piece = bytes.substr(0, kPiece);
     bytes.remove_prefix(piece.size());
-    handler.bytesDone += piece.size();
     const int isLast = bytes.empty() ? XML_TRUE : XML_FALSE;
     if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isLast) !=
         XML_STATUS_OK) {

@@ -27,13 +27,11 @@ class XmlHandler {
   };
 
   virtual void begin(std::string_view element, const Attributes& attributes) = 0;
-  virtual void end(std::string_view element) = 0;
+  virtual void end() = 0;
   virtual void text(std::string_view utf8) = 0;
   virtual void leftOut(std::string_view entity) = 0;  // its text is not to be had
 
-  // Of what is told.
-  std::uint32_t line = 1;
-  std::size_t bytesDone = 0;
+  std::size_t offset = 0;  // in the file, of what is told
 };
 
 // Reads a whole file. `encoding` overrules what the file says of itself. `name` is the file's for

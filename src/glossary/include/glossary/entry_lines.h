@@ -53,4 +53,30 @@ void visitEntry(const LineTable& lines, const LineRange& range, Visitor&& visito
   }
 }
 
+// The comment of an entry, from the lines that a visitor of its lines is told.
+class CommentLines {
+ public:
+  explicit CommentLines(const Collation& collation) : collation_(&collation) {}
+
+  // Empty lines at its beginning are none of its lines.
+  void add(TextView line, bool isHead) {
+    const bool begins = isHead || isEmpty();
+    const char16_t* const begin = begins ? line.data() : text_.data();
+    text_ = TextView(begin, static_cast<std::size_t>(line.data() + line.size() - begin));
+    hasSeveralLines_ = !begins;
+  }
+
+  // As the lines lie one after the other in their table.
+  TextView text() const { return text_; }
+
+ private:
+  // A comment that has several lines is not asked again, since it stays what it is: `C: x` and
+  // 100,000 lines would be a hundred thousand looks at all that stands above.
+  bool isEmpty() const { return !hasSeveralLines_ && collation_->isEmpty(text_); }
+
+  const Collation* collation_;
+  TextView text_;
+  bool hasSeveralLines_ = false;
+};
+
 }  // namespace termvik
