@@ -2,12 +2,14 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <new>
 
 #include <QApplication>
 
 #include "app/program.h"
 #include "out_of_memory.h"
+#include "qt_start.h"
 #include "toolkit/qt/qt_toolkit.h"
 
 namespace {
@@ -42,7 +44,9 @@ class Application : public QApplication {
 
 int main(int argc, char** argv) {
   std::set_terminate(end);
+  auto starting = std::make_unique<termvik::QtStart>();
   Application application(argc, argv);
+  starting.reset();
   termvik::QtToolkit::setUpApplication();
   const termvik::App app{.Path = termvik::programFolder(termvik::defWords::kFileNames),
                          .decimalSeparator = termvik::userDecimalSeparator()};
