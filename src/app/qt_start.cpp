@@ -20,10 +20,11 @@ void QtStart::take(QtMsgType type, const QMessageLogContext& context, const QStr
   }
   const bool hasDisplay =
       !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
-  std::fputs(hasDisplay ? "Termvik cannot show windows on this display; Qt needs the package qt6-wayland "
-                          "for Wayland, libxcb-cursor0 for X11\n"
-                        : "Termvik needs a desktop to show its window on: neither DISPLAY nor "
-                          "WAYLAND_DISPLAY is set\n",
+  std::fputs(hasDisplay
+                 ? "Termvik cannot show windows on this display; Qt needs the package qt6-wayland "
+                   "for Wayland, libxcb-cursor0 for X11\n"
+                 : "Termvik needs a desktop to show its window on: neither DISPLAY nor "
+                   "WAYLAND_DISPLAY is set\n",
              stderr);
   std::_Exit(EXIT_FAILURE);
 }

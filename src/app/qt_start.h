@@ -6,8 +6,9 @@
 
 namespace termvik {
 
-// As long as it is there, Qt's remarks wait. Where Qt finds that it cannot show windows, it would list
-// its plug-ins and abort: the program says in a sentence what is missing, and ends with status 1.
+// As long as it is there, Qt's remarks wait. Where Qt finds that it cannot show windows, it would
+// list its plug-ins and abort: the program says in a sentence what is missing, and ends with
+// status 1.
 class QtStart {
  public:
   QtStart();

@@ -1,34 +1,16 @@
 // What a person finds in the real main window beyond what the program asks of a toolkit.
-#include "qt_window.h"
-
 #include <QAccessible>
 #include <QApplication>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <gtest/gtest.h>
 
-#include "lookup/frm_glossary_design.h"
 #include "qt_controls.h"
-#include "toolkit/qt/qt_hands.h"
+#include "qt_main_window.h"
 
 namespace termvik {
 namespace {
-
-class QtMainWindow : public testing::Test {
- protected:
-  QtMainWindow() {
-    window->Show();
-    QCoreApplication::processEvents();
-  }
-
-  QMainWindow& widget() const { return dynamic_cast<QtWindow&>(*window).widget(); }
-
-  const Collation collation{"sv_SE"};
-  const std::unique_ptr<Hands> hands = makeQtHands(collation);
-  const std::unique_ptr<Window> window = hands->toolkit().createWindow(frmGlossaryDesign());
-};
 
 TEST_F(QtMainWindow, TabGoesThroughTheControlsInTheirOrder) {
   window->optionGroup(u"optGlossary").setValue(2, true);  // of a group Tab visits what is on

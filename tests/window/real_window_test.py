@@ -1,4 +1,6 @@
 """Drives the program in its real window: hands through xdotool, eyes through accessibility."""
+import itertools
+import os
 import pathlib
 import re
 import shutil
@@ -6,6 +8,7 @@ import subprocess
 import sys
 import time
 import unittest
+import unittest.mock
 
 import gi
 
@@ -236,6 +239,42 @@ class RealWindow(unittest.TestCase):
         expect("Markera dubletter!", "Markera dubletter! not checked. 5 words")
         self.click("Search words in whole glossary")
         expect("Search words in whole glossary", "Search words in whole glossary selected. 2 hits")
+
+    def test_alt_and_f10_give_the_keyboard_back(self):
+        self.choose_both()
+        self.click("Search")
+        for keys in ("Alt_L",), ("F10", "F10"), ("F10", "Escape"):
+            run("xdotool", "type", "f")
+            run("xdotool", "key", *keys)
+            run("xdotool", "type", "i")
+            wait_for(lambda: self.text("Search"), "fi")
+            run("xdotool", "key", "BackSpace", "BackSpace")
+
+    def test_without_a_display_it_says_what_is_missing(self):
+        nothing = {"DISPLAY": "", "QT_QPA_PLATFORM": ""}
+        for change in nothing, {"QT_QPA_PLATFORM": "none-such"}:
+            ended = subprocess.run([FOLDER / PROGRAM.name], env={**os.environ, **change},
+                                   stderr=subprocess.PIPE, text=True, timeout=15)
+            self.assertEqual((ended.returncode, ended.stderr.count("\n")), (1, 1), ended.stderr)
+            self.assertRegex(ended.stderr, "^Termvik .*(DISPLAY|qt6-wayland)")
+
+    def test_boxes_keep_their_lines_at_every_scale(self):
+        for scale in "1.25", "1.5", "1.75":
+            self.close()
+            (FOLDER / "Termvik.par").unlink()  # so that both boxes are empty
+            with unittest.mock.patch.dict(os.environ, QT_SCALE_FACTOR=scale):
+                self.start()
+            wait_for(self.has_border, True)
+
+    def has_border(self):
+        """Whether both boxes of the window's lower part end in lines."""
+        _, _, width, height = self.client()
+        across = f"{width - 8}x1+4+{height * 3 // 4}"
+        row = run("import", "-window", self.window, "-crop", across, "-depth", "8", "txt:-")
+        colours = [colour for colour, _ in itertools.groupby(re.findall("#[0-9A-F]{6}", row))]
+        background = colours[0]
+        boxes = [n for n, colour in enumerate(colours) if colour == "#FFFFFF"]
+        return len(boxes) == 2 and all(background not in (colours[n - 1], colours[n + 1]) for n in boxes)
 
     def test_doublets_reach_another_program(self):
         self.choose_both()

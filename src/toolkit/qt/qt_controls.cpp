@@ -1,8 +1,14 @@
 #include "qt_controls.h"
 
+#include <cmath>
+
+#include <QApplication>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 
 namespace termvik {
 
@@ -38,6 +44,12 @@ QFrame* makePicture(QWidget* parent, const ControlDesign& design) {
   return picture;
 }
 
+QGroupBox* makeFrame(QWidget* parent, const ControlDesign& design) {
+  auto* frame = new QGroupBox(toQt(design.caption), parent);
+  frame->setAutoFillBackground(true);  // in a narrow window it lies over the logo
+  return frame;
+}
+
 QFrame* makeLine(QWidget* parent) {
   auto* line = new QFrame(parent);
   line->setFrameShape(QFrame::HLine);
@@ -45,14 +57,46 @@ QFrame* makeLine(QWidget* parent) {
   return line;
 }
 
+// A sign on a dark window is this far from the window's colour towards that of its text: three
+// times as bright, so that it stands out, while the mark in it still does from the sign.
+constexpr double kSignFromWindow = 0.4;
+
+QColor between(const QColor& from, const QColor& to, double share) {
+  const auto mix = [share](int a, int b) {
+    return static_cast<int>(std::lround(a + share * (b - a)));
+  };
+  return {mix(from.red(), to.red()), mix(from.green(), to.green()), mix(from.blue(), to.blue())};
+}
+
 }  // namespace
+
+// Each arrow chooses the option that it leads to, also where none is on yet.
+class QtOptionButton::Button : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    QRadioButton::keyPressEvent(event);
+    auto* next = qobject_cast<QRadioButton*>(QApplication::focusWidget());
+    if (next != nullptr && next != this) next->setChecked(true);
+  }
+
+  // Shows the focus also where the mouse has brought it, as far as the style shows it at all.
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    if (hasFocus()) option.state |= QStyle::State_KeyboardFocusChange;
+    painter.drawControl(QStyle::CE_RadioButton, option);
+  }
+};
 
 QtOptionButton::QtOptionButton(QWidget* parent, const ControlDesign& design, OptionGroup& group,
                                QButtonGroup& exclusive)
-    : QtControl(new QRadioButton(toQt(design.caption), parent), design, group),
-      exclusive_(exclusive) {
+    : QtControl(new Button(toQt(design.caption), parent), design, group), exclusive_(exclusive) {
   exclusive_.addButton(widget());
-  widget()->setChecked(Value());
+  QtOptionButton::showValue();
   QObject::connect(widget(), &QRadioButton::toggled, widget(), [this](bool on) {
     if (on) userChooses();
   });
@@ -63,6 +107,16 @@ void QtOptionButton::showValue() {
   exclusive_.setExclusive(false);  // else the last button that is on cannot be switched off
   widget()->setChecked(Value());
   exclusive_.setExclusive(true);
+  chooseTabStop();
+}
+
+// Of a group Tab visits the option that is on, or the first.
+void QtOptionButton::chooseTabStop() const {
+  const QAbstractButton* on = exclusive_.checkedButton();
+  for (QAbstractButton* button : exclusive_.buttons()) {
+    if (on == nullptr) on = button;
+    button->setFocusPolicy(button == on ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 QtCheckBox::QtCheckBox(QWidget* parent, const ControlDesign& design)
@@ -81,8 +135,7 @@ QtCommandButton::QtCommandButton(QWidget* parent, const ControlDesign& design)
 std::unique_ptr<Control> makeQtDecoration(QWidget* parent, const ControlDesign& design) {
   switch (design.kind) {
     case ControlKind::Frame:
-      return std::make_unique<QtControl<Control, QWidget>>(
-          new QGroupBox(toQt(design.caption), parent), design);
+      return std::make_unique<QtControl<Control, QWidget>>(makeFrame(parent, design), design);
     case ControlKind::PictureBox:
       return std::make_unique<QtControl<Control, QWidget>>(makePicture(parent, design), design);
     case ControlKind::Line:
@@ -94,18 +147,28 @@ std::unique_ptr<Control> makeQtDecoration(QWidget* parent, const ControlDesign& 
 
 void applyColours(QWidget& widget, const ControlDesign& design) {
   QPalette palette = widget.palette();
-  const bool darkWindow = palette.color(QPalette::Window).lightness() < 128;
+  const QColor window = palette.color(QPalette::Window);
+  const bool darkWindow = window.lightness() < 128;
   // Black where black can be read; on a dark desktop the desktop's own text colour.
   if (design.textColour == Colour::Black && !darkWindow) {
     palette.setColor(QPalette::WindowText, Qt::black);
+  }
+  // Styles fill the sign of an option with the colour of a list, and draw a darker line around it:
+  // on a dark window neither can be seen while the option is off.
+  const bool hasSign =
+      design.kind == ControlKind::OptionButton || design.kind == ControlKind::CheckBox;
+  if (hasSign && darkWindow) {
+    const QColor text = palette.color(QPalette::WindowText);
+    palette.setColor(QPalette::Base, between(window, text, kSignFromWindow));
   }
   if (design.backColour == Colour::ToolTipBackground) {
     palette.setColor(QPalette::Base, palette.color(QPalette::ToolTipBase));
     palette.setColor(QPalette::Text, palette.color(QPalette::ToolTipText));
   }
   if (design.backColour == Colour::ButtonFace) {
-    palette.setColor(QPalette::Base, palette.color(QPalette::Button));
-    palette.setColor(QPalette::Text, palette.color(QPalette::ButtonText));
+    // The surface of a window, which styles of today give a colour that is not that of its buttons.
+    palette.setColor(QPalette::Base, window);
+    palette.setColor(QPalette::Text, palette.color(QPalette::WindowText));
   }
   widget.setPalette(palette);
 }

@@ -56,6 +56,10 @@ class QtOptionButton : public QtControl<OptionButton, QRadioButton> {
   void showValue() override;
 
  private:
+  class Button;
+
+  void chooseTabStop() const;
+
   QButtonGroup& exclusive_;
 };
 

@@ -91,8 +91,10 @@ QFont designedFont(const FontDesign& design) {
   const QString family = toQt(design.family);
   const bool isSans = sansFamilies().contains(family);
   QStringList families = installed(isSans ? sansFamilies() : QStringList{family});
-  families << QStringLiteral("DejaVu Sans") << font.families();
+  families << installed({QStringLiteral("DejaVu Sans"), QStringLiteral("Liberation Sans")});
+  families << font.families();
   font.setFamilies(families);
+  font.setStyleHint(QFont::SansSerif);
   font.setPixelSize(static_cast<int>(std::lround(design.points * kPixelsPerPoint)));
   font.setBold(design.bold);
   font.setItalic(design.italic);

@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QStyledItemDelegate>
 #include <QTimer>
+#include <QToolTip>
 
+#include "qt_frame_cover.h"
 #include "toolkit/shared/shown_limits.h"
 
 namespace termvik {
@@ -20,6 +23,22 @@ class RowDelegate : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
     constexpr int kBetweenRows = 1;
     return {0, option.fontMetrics.height() + kBetweenRows};
+  }
+
+  // A row that is wider than the list can be read as a tip.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    if (event->type() != QEvent::ToolTip || !index.isValid()) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    const QString text = index.data().toString();
+    const int margin = 2 * (view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const QRect row = view->visualRect(index);
+    const bool fits = view->fontMetrics().horizontalAdvance(text) + margin <= row.width();
+    // Else a row with `<` in it could be taken for one with marks of HTML.
+    const QString tip = fits ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+    QToolTip::showText(event->globalPos(), tip, view->viewport(), row);
+    return true;
   }
 };
 
@@ -98,6 +117,7 @@ QtListBox::QtListBox(QWidget* parent, const ControlDesign& design, const Collati
   view.setEditTriggers(QAbstractItemView::NoEditTriggers);
   view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   view.setTextElideMode(Qt::ElideRight);
+  new QtFrameCover(view);  // the view owns it
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
                    [this](const QModelIndex& current) {
                      if (!selecting_ && current.isValid()) userSelects(current.row());

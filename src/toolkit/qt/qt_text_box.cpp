@@ -6,6 +6,7 @@
 #include <QMimeData>
 #include <QTextBlock>
 
+#include "qt_frame_cover.h"
 #include "toolkit/shared/shown_limits.h"
 
 namespace termvik {
@@ -69,7 +70,11 @@ QtTextBox::QtTextBox(QWidget* parent, const ControlDesign& design)
   edit.setTabChangesFocus(true);
   edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   edit.setVerticalScrollBarPolicy(design.scrolls ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
-  if (design.flat) edit.setFrameShape(QFrame::NoFrame);
+  if (design.flat) {
+    edit.setFrameShape(QFrame::NoFrame);
+  } else {
+    new QtFrameCover(edit);  // the box owns it
+  }
   QTextOption option = edit.document()->defaultTextOption();
   option.setAlignment(qtAlignment(design.alignment));
   edit.document()->setDefaultTextOption(option);

@@ -53,6 +53,7 @@ class QtWindow : public Window {
   void setTabOrder();
   void addMenu(const QFont& captionFont);
   void addKeys();
+  void showHiddenItem(QAction* action);
   void focusMenuBar();
   void leaveMenuBar();
 

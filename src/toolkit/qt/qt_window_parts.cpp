@@ -1,9 +1,11 @@
 // The menu, the controls and the keys of a window, made from its design.
 #include <QAction>
 #include <QApplication>
+#include <QMenu>
 #include <QMenuBar>
 #include <QProxyStyle>
 #include <QShortcut>
+#include <QToolButton>
 
 #include "qt_edit_box.h"
 #include "qt_fonts.h"
@@ -29,6 +31,7 @@ class CloseItemsStyle : public QProxyStyle {
 
 void QtWindow::addControls(const Collation& collation) {
   const QFont font = captionFont(design());
+  widget_->setFont(font);  // for what is shown beside the controls
   if (!design().menu.empty()) addMenu(font);
   for (const ControlDesign& control : design().controls) addControl(control, font, collation);
   setTabOrder();
@@ -97,6 +100,9 @@ void QtWindow::addMenu(const QFont& captionFont) {
   QMenuBar& bar = *widget_->menuBar();
   // A global menu bar shows only items that have menus; ours have none.
   bar.setNativeMenuBar(false);
+  // By this the bar waits for a tap on Alt, which would take the keyboard from the search box and
+  // show nothing. F10 opens the bar.
+  widget_->removeEventFilter(&bar);
   auto* style = new CloseItemsStyle;
   style->setParent(&bar);
   bar.setStyle(style);
@@ -112,6 +118,25 @@ void QtWindow::addMenu(const QFont& captionFont) {
     actions_.emplace_back(&item, action);
   }
   fitMenuBar(bar, captionFont, toPixels(design().clientWidth));
+  // Later, since the bar has not yet taken it for the one that the keys are at.
+  QObject::connect(
+      &bar, &QMenuBar::hovered, &bar, [this](QAction* action) { showHiddenItem(action); },
+      Qt::QueuedConnection);
+}
+
+// The arrow keys reach items too that do not fit into a narrow window: they are shown in the menu
+// of those items.
+void QtWindow::showHiddenItem(QAction* action) {
+  QMenuBar& bar = *widget_->menuBar();
+  const auto* more = bar.findChild<QToolButton*>(QStringLiteral("qt_menubar_ext_button"));
+  const bool isHidden = !bar.rect().contains(bar.actionGeometry(action).center());
+  if (!isHidden || !bar.hasFocus() || bar.activeAction() != action || more == nullptr) return;
+  QMenu* menu = more->menu();
+  if (menu == nullptr || menu->isVisible()) return;
+  QObject::connect(
+      menu, &QMenu::aboutToHide, &bar, [this] { leaveMenuBar(); }, Qt::SingleShotConnection);
+  menu->popup(more->mapToGlobal(QPoint(0, more->height())));
+  menu->setActiveAction(action);
 }
 
 void QtWindow::addKeys() {
@@ -119,7 +144,8 @@ void QtWindow::addKeys() {
     QObject::connect(new QShortcut(key, widget_.get()), &QShortcut::activated, widget_.get(), act);
   };
   if (!actions_.empty()) {
-    onKey(Qt::Key_F10, [this] { focusMenuBar(); });
+    onKey(Qt::Key_F10,
+          [this] { widget_->menuBar()->hasFocus() ? leaveMenuBar() : focusMenuBar(); });
     widget_->menuBar()->installEventFilter(widget_.get());
   }
   for (const auto& control : controls()) {
@@ -135,7 +161,7 @@ void QtWindow::addKeys() {
 
 void QtWindow::focusMenuBar() {
   QMenuBar& bar = *widget_->menuBar();
-  if (!bar.hasFocus()) focusBehindMenu_ = QApplication::focusWidget();
+  focusBehindMenu_ = QApplication::focusWidget();
   bar.setFocus(Qt::MenuBarFocusReason);
   bar.setActiveAction(actions_.front().second);
 }
