@@ -20,6 +20,7 @@ constexpr FontDesign kTitleFont{.family = u"MS Sans Serif", .points = 12, .bold 
 WindowDesign frmAboutDesign() {
   using enum ControlKind;
   return {.name = u"frmAbout",
+          .accessibleName = u"About Termvik",
           .clientWidth = 8700,
           .clientHeight = 5865,
           .hasTitleBar = false,

@@ -193,6 +193,7 @@ class RealWindow(unittest.TestCase):
         wait_for(self.rows, ["file", "glue", "ink", "sheet", "size"])
         run("xdotool", "key", "F10", "Right", "Right", "Right", "Right", "Return")
         wait_for(lambda: self.has_focus("OK"), True)
+        self.control("About Termvik")
         self.assertIn("Version: ", self.text("Authors and version"))
         run("xdotool", "key", "Escape")
         wait_for(lambda: "OK" in [node.get_name() for node in self.nodes()], False)
@@ -239,6 +240,12 @@ class RealWindow(unittest.TestCase):
         expect("Markera dubletter!", "Markera dubletter! not checked. 5 words")
         self.click("Search words in whole glossary")
         expect("Search words in whole glossary", "Search words in whole glossary selected. 2 hits")
+        self.assertEqual(self.control("Both").get_description(), "Glossary")
+        run("xdotool", "key", "F10", *["Right"] * 7)
+        wait_for(lambda: (iterate(), told[-1:])[1], ["Skapa ordlistefil"])
+        off = self.control("Skapa ordlistefil").get_state_set()
+        self.assertFalse(off.contains(Atspi.StateType.ENABLED))
+        run("xdotool", "key", "Escape")
 
     def test_alt_and_f10_give_the_keyboard_back(self):
         self.choose_both()

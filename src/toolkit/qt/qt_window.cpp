@@ -58,6 +58,7 @@ class QtWindow::MainWindow : public QMainWindow {
 
   // Sees what comes to the menu bar.
   bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::KeyRelease) window_.tellOfSwitchedOffItem();
     const bool isEscape = event->type() == QEvent::KeyPress &&
                           static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
     if (!isEscape) return QMainWindow::eventFilter(object, event);
@@ -89,6 +90,7 @@ QtWindow::QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowD
           *this, design.hasTitleBar ? Qt::Window : Qt::Dialog | Qt::FramelessWindowHint)) {
   widget_->setObjectName(toQt(design.name));
   widget_->setWindowTitle(toQt(design.caption));
+  if (!design.accessibleName.empty()) widget_->setAccessibleName(toQt(design.accessibleName));
   addControls(collation);
   addKeys();
   const int menuHeight = design.menu.empty() ? 0 : widget_->menuBar()->sizeHint().height();

@@ -56,6 +56,7 @@ class QtWindow : public Window {
   void showHiddenItem(QAction* action);
   void focusMenuBar();
   void leaveMenuBar();
+  void tellOfSwitchedOffItem();
 
   // qt_window_place.cpp
   void placeWidget(const Place& place);

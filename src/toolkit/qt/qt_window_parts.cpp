@@ -1,4 +1,5 @@
 // The menu, the controls and the keys of a window, made from its design.
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
@@ -20,6 +21,13 @@ namespace {
 // The items of the menu bar stand close enough for all of them to be seen at the design's width.
 class CloseItemsStyle : public QProxyStyle {
  public:
+  // A person who goes about by keys alone finds what is switched off too.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    if (hint == SH_Menu_AllowActiveAndDisabled) return 1;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+  }
+
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     if (metric == PM_MenuBarItemSpacing) return 0;
@@ -79,6 +87,9 @@ void QtWindow::addControl(const ControlDesign& design, const QFont& captionFont,
   widget->setFont(design.font.points > 0 ? designedFont(design.font) : captionFont);
   if (!design.caption.empty()) shrinkToFit(*widget, design);
   if (!design.accessibleName.empty()) widget->setAccessibleName(toQt(design.accessibleName));
+  if (!design.accessibleGroup.empty()) {
+    widget->setAccessibleDescription(toQt(design.accessibleGroup));
+  }
   if (!design.tabStop) widget->setFocusPolicy(Qt::ClickFocus);
   applyColours(*widget, design);
   Window::addControl(std::move(control));
@@ -170,6 +181,16 @@ void QtWindow::focusMenuBar() {
 void QtWindow::leaveMenuBar() {
   widget_->menuBar()->setActiveAction(nullptr);
   if (widget_->menuBar()->hasFocus() && focusBehindMenu_) focusBehindMenu_->setFocus();
+}
+
+// Qt tells screen readers only of items that are on.
+void QtWindow::tellOfSwitchedOffItem() {
+  QMenuBar& bar = *widget_->menuBar();
+  const QAction* active = bar.activeAction();
+  if (!QAccessible::isActive() || active == nullptr || active->isEnabled()) return;
+  QAccessibleEvent reached(&bar, QAccessible::Focus);
+  reached.setChild(static_cast<int>(bar.actions().indexOf(active)));
+  QAccessible::updateAccessibility(&reached);
 }
 
 QAction* QtWindow::action(const MenuItem& item) const {

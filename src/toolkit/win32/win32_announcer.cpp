@@ -1,5 +1,5 @@
-// By a notification where the system has them (from Windows 10 1709 on), otherwise by a live region:
-// a label without extent whose change readers tell of.
+// By a notification where the system has them (from Windows 10 1709 on), otherwise by a live
+// region: a label without extent whose change readers tell of.
 #include "win32_announcer.h"
 
 #include <oleauto.h>
@@ -17,8 +17,8 @@ namespace {
 // Sooner than anyone has begun to listen, later than the next key of fingers that hurry.
 constexpr UINT kRestMilliseconds = 60;
 
-constexpr int kOtherKind = 4;          // NotificationKind_Other
-constexpr int kImportantNewest = 1;    // NotificationProcessing_ImportantMostRecent
+constexpr int kOtherKind = 4;        // NotificationKind_Other
+constexpr int kImportantNewest = 1;  // NotificationProcessing_ImportantMostRecent
 constexpr const wchar_t* kActivity = L"Termvik";
 
 // What older systems lack, and the compiler's libraries.

@@ -1,5 +1,6 @@
 #include "win32_names.h"
 
+#include <array>
 #include <objbase.h>
 
 // After the header that it needs. Its GUIDs lie in a library.
@@ -22,20 +23,27 @@ void withNameService(Act act) {
   service->Release();
 }
 
-constexpr DWORD kWholeControl = static_cast<DWORD>(OBJID_CLIENT);
+constexpr DWORD kWhole = static_cast<DWORD>(OBJID_CLIENT);
 
 }  // namespace
 
-void giveSpokenName(HWND control, TextView name) {
+void giveSpokenNames(HWND window, TextView name, TextView group) {
+  if (name.empty() && group.empty()) return;
   withNameService([&](IAccPropServices& service) {
-    service.SetHwndPropStr(control, kWholeControl, CHILDID_SELF, PROPID_ACC_NAME,
-                           wide(name).c_str());
+    const auto give = [&](const MSAAPROPID& property, TextView text) {
+      if (text.empty()) return;
+      service.SetHwndPropStr(window, kWhole, CHILDID_SELF, property, wide(text).c_str());
+    };
+    give(PROPID_ACC_NAME, name);
+    give(PROPID_ACC_DESCRIPTION, group);
   });
 }
 
-void takeSpokenName(HWND control) {
+void takeSpokenNames(HWND window) {
   withNameService([&](IAccPropServices& service) {
-    service.ClearHwndProps(control, kWholeControl, CHILDID_SELF, &PROPID_ACC_NAME, 1);
+    const std::array properties = {PROPID_ACC_NAME, PROPID_ACC_DESCRIPTION};
+    service.ClearHwndProps(window, kWhole, CHILDID_SELF, properties.data(),
+                           static_cast<int>(properties.size()));
   });
 }
 

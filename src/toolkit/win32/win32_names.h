@@ -1,4 +1,4 @@
-// What a screen reader says of a control that has no caption.
+// What a screen reader says of a window or control that has no caption, and of a control's group.
 #pragma once
 
 #include <windows.h>
@@ -7,9 +7,10 @@
 
 namespace termvik {
 
-void giveSpokenName(HWND control, TextView name);
+// Nothing for an empty text.
+void giveSpokenNames(HWND window, TextView name, TextView group = {});
 
-// To be called before the control goes, or the system keeps the name.
-void takeSpokenName(HWND control);
+// To be called before the window goes, or the system keeps the names.
+void takeSpokenNames(HWND window);
 
 }  // namespace termvik

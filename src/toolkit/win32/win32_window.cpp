@@ -38,6 +38,7 @@ Win32Window::Win32Window(Win32Toolkit& toolkit, const Collation& collation,
   createWindow();
   dpi_ = dpiOf(hwnd_);
   icons_ = std::make_unique<Win32Icons>(hwnd_, dpi_);
+  giveSpokenNames(hwnd_, design.accessibleName);
   addControls(collation);
   giveClientSize();
   toolkit_.opened(*this);
@@ -46,8 +47,11 @@ Win32Window::Win32Window(Win32Toolkit& toolkit, const Collation& collation,
 Win32Window::~Win32Window() {
   Win32Window::Unload();
   for (const auto& control : controls()) {
-    if (!control->design().accessibleName.empty()) takeSpokenName(win32Widget(*control).handle());
+    const ControlDesign& design = control->design();
+    if (design.accessibleName.empty() && design.accessibleGroup.empty()) continue;
+    takeSpokenNames(win32Widget(*control).handle());
   }
+  if (!design().accessibleName.empty()) takeSpokenNames(hwnd_);
   DestroyWindow(hwnd_);
 }
 

@@ -50,8 +50,8 @@ UINT Win32Window::menuId(const MenuItem& item) const {
 void Win32Window::addControls(const Collation& collation) {
   for (const ControlDesign& control : design().controls) {
     addControl(makeControl(control, collation));
-    if (control.accessibleName.empty()) continue;
-    giveSpokenName(win32Widget(*controls().back()).handle(), control.accessibleName);
+    giveSpokenNames(win32Widget(*controls().back()).handle(), control.accessibleName,
+                    control.accessibleGroup);
   }
   for (const auto& control : controls()) {
     if (auto* option = dynamic_cast<Win32OptionButton*>(control.get())) option->showValue();

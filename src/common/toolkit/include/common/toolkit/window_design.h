@@ -53,8 +53,9 @@ struct ControlDesign {
   std::int32_t index = kNoIndex;  // from 0, in a group of controls that share a name
   TextView caption{};             // also the first text of a text box
   Place place{};
-  TextView container{};       // name of the frame that the control lies in; empty for the window
-  TextView accessibleName{};  // what a screen reader says where there is no caption
+  TextView container{};        // name of the frame that the control lies in; empty for the window
+  TextView accessibleName{};   // what a screen reader says where there is no caption
+  TextView accessibleGroup{};  // and of its group where no frame holds it
   FontDesign font{};
   Alignment alignment = Alignment::Left;
   Colour textColour = Colour::Default;
@@ -78,6 +79,7 @@ struct MenuItemDesign {
 struct WindowDesign {
   TextView name;
   TextView caption{};
+  TextView accessibleName{};  // what a screen reader says where there is no caption
   float clientWidth = 0;
   float clientHeight = 0;
   bool hasTitleBar = true;
