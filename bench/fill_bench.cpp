@@ -22,7 +22,7 @@ void fill(benchmark::State& state) {
                          },
                      .prepare = [&] { list.Clear(); }};
   const Task sort{[&] { benchmark::DoNotOptimize(weights.sorted()); }};
-  measure(state, program, sort, {.most = kLimit});
+  measure(state, program, sort, {.most = limitAtLargest(state, kLimit)});
 }
 
 }  // namespace

@@ -104,10 +104,8 @@ void run(benchmark::State& state, Kind kind, const Case& searchCase) {
   }
   std::optional<SampleProgram> window;
   if (kind == Kind::Click) program = clickTask(window.emplace(state.range(0)), terms);
-  Limit limit{.passes = static_cast<double>(terms.size())};
-  // What a person waits for is the large glossary; in a small one the search itself is over at
-  // once.
-  if (state.range(0) == kLargest) limit.most = limitOf(kind, terms.size());
+  const Limit limit{.most = limitAtLargest(state, limitOf(kind, terms.size())),
+                    .passes = static_cast<double>(terms.size())};
   measure(state, program, plainPasses(searched.folded, terms), limit);
   state.counters[kHits] = window ? window->list().ListCount() : static_cast<double>(hits);
 }

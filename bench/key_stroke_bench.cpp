@@ -52,7 +52,7 @@ void keyStroke(benchmark::State& state, const Text& text, double limit) {
   const Task stroke{.work = [&] { typed.program.type(text); },
                     .prepare = [&] { typed.program.type({}); }};
   const Task walk{[&] { benchmark::DoNotOptimize(typed.weights.countFrom(wanted)); }};
-  measure(state, stroke, walk, {.most = limit});
+  measure(state, stroke, walk, {.most = limitAtLargest(state, limit)});
   stroke.prepare();
   const std::int64_t before = allocations;
   stroke.work();

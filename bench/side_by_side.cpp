@@ -54,6 +54,10 @@ void measure(benchmark::State& state, const Task& program, const Task& yardstick
   state.counters["pass"] = median(passes);
 }
 
+double limitAtLargest(const benchmark::State& state, double most) {
+  return state.range(0) == kLargest ? most : Limit::kNone;
+}
+
 void add(const std::string& name, const std::vector<std::int64_t>& sizes,
          const std::function<void(benchmark::State&)>& run) {
   auto* added = benchmark::RegisterBenchmark(name.c_str(), run)->Iterations(1)->UseManualTime();

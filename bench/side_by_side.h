@@ -36,6 +36,9 @@ const Task& fasterOf(const Task& a, const Task& b);
 // Reports the median of the ratios of neighbours, and both median times.
 void measure(benchmark::State& state, const Task& program, const Task& yardstick, Limit limit);
 
+// A limit that is judged at kLargest: in a small glossary everything is over at once.
+double limitAtLargest(const benchmark::State& state, double most);
+
 // Adds a benchmark that is run once for each size.
 void add(const std::string& name, const std::vector<std::int64_t>& sizes,
          const std::function<void(benchmark::State&)>& run);

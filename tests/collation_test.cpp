@@ -1,4 +1,4 @@
-// The order and the equality of words, and that the quicker roads to them give the same answers.
+// The order and the equality of words, and that the quicker ways to them give the same answers.
 #include "common/collation/folded_texts.h"
 #include "support/desk.h"
 

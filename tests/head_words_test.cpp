@@ -3,11 +3,11 @@
 #include <fstream>
 #include <map>
 
+#include <gtest/gtest.h>
+
 #include "lookup/look_up.h"
 #include "support/plain_fit.h"
 #include "support/store.h"
-
-#include <gtest/gtest.h>
 
 namespace termvik::test {
 

@@ -1,5 +1,5 @@
-// The rule of the look-up as it reads, row by row and part by part: what takes a shorter way is held
-// against it.
+// The rule of the look-up as it reads, row by row and part by part: what takes a shorter way is
+// held against it.
 #pragma once
 
 #include "common/collation/sorted_rows.h"

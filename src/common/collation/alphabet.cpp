@@ -34,8 +34,8 @@ Text Alphabet::standing(TextView characters) {
   return standing;
 }
 
-// A character is several letters when it stands behind a letter and yet before that letter with the
-// last of all behind it.
+// A character is several letters when it comes after a letter and yet before that letter followed
+// by the last of all: `æ` comes after `a` and before `aö`, so it begins with the letter `a`.
 void Alphabet::divide(const Text& standing) {
   Text several;
   for (const char16_t character : standing) {
@@ -69,7 +69,8 @@ void Alphabet::addLetter(char16_t character) {
   }
 }
 
-// The letters of a character: each time the last one that does not lead past it.
+// The letters of a character: each time the last one that does not lead past it. Of `æ` the first
+// is `a`, as `b` comes after `æ`; then `ae`, as `af` does.
 Text Alphabet::spelling(char16_t character) const {
   const TextView text(&character, 1);
   Text spelling;
@@ -88,7 +89,8 @@ Text Alphabet::spelling(char16_t character) const {
   return {};
 }
 
-// An accent has to outweigh whatever accent may follow it, or else whatever may stand ahead of it.
+// An accent has to outweigh whatever accent may follow it, so that `eá` comes before `éa`,
+// or else, as in Canadian French, whatever may stand before it: `éa` before `eá`.
 bool Alphabet::letterByLetter(bool fromBack) const {
   const auto orderOfPairs = [this](TextView a, TextView b, TextView c, TextView d) {
     return order(Text(a).append(b), Text(c).append(d), Strength::Accents);

@@ -84,7 +84,7 @@ bool SearchTerm::occursIn(TextView text, LettersView letters) const {
   return letters_->findIn(letters, isWhole) != WantedLetters::kNotFound;
 }
 
-// The road for texts whose characters depend on their neighbours or are unknown: for every start,
+// The way for texts whose characters depend on their neighbours or are unknown: for every start,
 // follow the collation of text and term as far as they agree, then ask the collator.
 bool SearchTerm::occursByCollator(TextView text) const {
   const auto elements = collation_->collator().elements(term_);

@@ -27,7 +27,7 @@ const QStringList& sansFamilies() {
 }
 
 // Qt looks for a substitute of a family that is not installed, even where a later one of a font's
-// families is; that takes it longer than to make the font (start_bench).
+// families is; that takes it longer than to make the font (bench/start).
 QStringList installed(const QStringList& families) {
   static const QStringList all = QFontDatabase::families();
   QStringList found;

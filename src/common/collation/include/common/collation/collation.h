@@ -58,7 +58,7 @@ class Collation {
  private:
   bool isSureLetter(char16_t character) const { return firstLetters_[character] != kNoLetter; }
 
-  // True when the first characters alone show that the texts differ: the road of the many
+  // True when the first characters alone show that the texts differ: the way of the many
   // comparisons with a word type or a mark at the beginning of a line.
   bool beginApart(TextView a, TextView b) const {
     const auto first = firstLetter(a);

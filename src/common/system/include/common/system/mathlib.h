@@ -1,4 +1,4 @@
-// Small operations that several rooms share.
+// Small operations that several modules share.
 #pragma once
 
 #include <cstdint>

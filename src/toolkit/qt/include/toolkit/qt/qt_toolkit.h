@@ -15,7 +15,7 @@ class QtToolkit : public Toolkit {
   static void setUpApplication();
 
   // Gives the program its icon, once. Its pictures take longer to decode than the window takes to
-  // be built, so that they wait until the first window is there (start_bench).
+  // be built, so that they wait until the first window is there (bench/start).
   static void showIcon();
 
   std::unique_ptr<Window> createWindow(const WindowDesign& design) override;
