@@ -17,7 +17,7 @@ namespace termvik::bench {
 namespace {
 
 constexpr std::int64_t kPart = 8;
-constexpr double kLimit = 4;  // fresh memory costs a large file more
+constexpr double kLimit = 4;        // fresh memory costs a large file more
 constexpr double kReportLimit = 4;  // times a copy of the text
 constexpr std::int64_t kTenMillion = 10'000'000;
 
@@ -38,9 +38,19 @@ std::string nothingButSoftHyphens(std::int64_t lines) {
 std::string longComment(std::int64_t bytes) {
   return "S: a\r\nC: " + repeated("a long remark\xDF, ", bytes / 16);
 }
-std::string longWord(std::int64_t bytes) { return "S: " + repeated("a-stra\xDF" "e", bytes / 8); }
+std::string longWord(std::int64_t bytes) {
+  return "S: " + repeated(
+                     "a-stra\xDF"
+                     "e",
+                     bytes / 8);
+}
 // Of which some are no letters by themselves, so that the collator is asked.
-std::string unknownWord(std::int64_t bytes) { return "S: " + repeated("stra\xDF" "e\xB7l", bytes / 8); }
+std::string unknownWord(std::int64_t bytes) {
+  return "S: " + repeated(
+                     "stra\xDF"
+                     "e\xB7l",
+                     bytes / 8);
+}
 std::string emptyBlocks(std::int64_t blocks) { return repeated("\r\n---\r\n", blocks); }
 std::string equalWords(std::int64_t words) { return "S: " + repeated("bult\r\n", words); }
 

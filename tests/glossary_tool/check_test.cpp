@@ -98,7 +98,7 @@ TEST_F(Check, TellsWhatTheBytesAre) {
            {"\xEF\xBB\xBFv\r---\rS: a", "1 error encoding; 1 entry, 1 error, 0 warnings"},
            {std::string("v\0\r\0\n\0S\0:\0 \0a\0", 14),
             "1 error encoding; 0 entries, 1 error, 0 warnings"},
-           {"\xFE\xFF\0S", "1 error encoding; 0 entries, 1 error, 0 warnings"},
+           {std::string("\xFE\xFF\0S", 4), "1 error encoding; 0 entries, 1 error, 0 warnings"},
            {"v\n---\nS: a\n",
             "1 error line-ends;1 error no-entries; 0 entries, 2 errors, 0 warnings"},
            {"v\r\n---\rS: a\nE:b\n\r\nF:c",

@@ -54,7 +54,7 @@ constexpr std::array<bool, 256> makeControls() {
   for (std::size_t byte = 0; byte < ' '; ++byte) controls[byte] = true;
   controls['\t'] = controls['\r'] = controls['\n'] = false;
   // The last five are bytes that Windows-1252 leaves undefined.
-  for (const std::size_t byte : {0x7F, 0x81, 0x8D, 0x8F, 0x90, 0x9D}) controls[byte] = true;
+  for (const std::size_t byte : {0x7FU, 0x81U, 0x8DU, 0x8FU, 0x90U, 0x9DU}) controls[byte] = true;
   return controls;
 }
 

@@ -63,9 +63,9 @@ std::string readBytes(const std::string& name, Streams& streams) {
   });
 }
 
-Output::Output(const std::string& name, const std::vector<std::string>& inputs, bool force,
+Output::Output(std::string name, const std::vector<std::string>& inputs, bool force,
                Streams& streams)
-    : name_(name), force_(force), streams_(streams) {
+    : name_(std::move(name)), force_(force), streams_(streams) {
   if (name_ != kStandardStream) {
     std::error_code error;
     target_ = pathOf(name_);

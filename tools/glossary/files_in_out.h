@@ -23,8 +23,7 @@ class Output {
  public:
   // `name` is a path, or stands for standard output. A file that exists is replaced with `force`
   // only; an input is never. Throws Failure when it cannot be.
-  Output(const std::string& name, const std::vector<std::string>& inputs, bool force,
-         Streams& streams);
+  Output(std::string name, const std::vector<std::string>& inputs, bool force, Streams& streams);
   ~Output();
   Output(const Output&) = delete;
   Output& operator=(const Output&) = delete;

@@ -21,6 +21,7 @@ struct Occurrence {
   std::uint32_t wordClass = 0;
   std::size_t entry = 0;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the comparison that is made has a 0 in it
   auto operator<=>(const Occurrence&) const = default;
 };
 

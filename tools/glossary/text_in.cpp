@@ -35,8 +35,8 @@ constexpr std::array<char16_t, 256> kDecoded = makeDecoded();
 Text fromUtf16(std::string_view bytes, bool littleEndian) {
   Text text(bytes.size() / 2, u'\0');
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const auto first = static_cast<unsigned char>(bytes[2 * i]);
-    const auto second = static_cast<unsigned char>(bytes[2 * i + 1]);
+    const unsigned first = static_cast<unsigned char>(bytes[2 * i]);
+    const unsigned second = static_cast<unsigned char>(bytes[2 * i + 1]);
     const unsigned unit = littleEndian ? second << 8U | first : first << 8U | second;
     text[i] = static_cast<char16_t>(unit);
   }
@@ -60,8 +60,9 @@ std::size_t firstBadLine(std::string_view bytes) {
 
 std::optional<Encoding> encodingNamed(std::string_view name) {
   std::string lower(name);
-  for (char& letter : lower)
-    letter = letter >= 'A' && letter <= 'Z' ? letter + ('a' - 'A') : letter;
+  for (char& letter : lower) {
+    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
+  }
   for (const auto& [known, encoding] : kNames) {
     if (lower == known) return encoding;
   }
