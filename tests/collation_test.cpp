@@ -131,4 +131,11 @@ TEST(CodePage, GivesEveryByteACharacterAndTakesItBack) {
   EXPECT_EQ(encodeAnsi(u"aл\u0080\xD83D\xDE00å"), "a????\xE5");
 }
 
+// In Hungarian `ty` is a letter of its own, so that `t` depends on its neighbour.
+TEST(Collation, TakesASignForSeveralLettersWhereOneOfThemDependsOnItsNeighbour) {
+  const Collation hungarian("hu_HU");
+  EXPECT_FALSE(SearchTerm(hungarian, u"taa").occursIn(u"™aa"));
+  EXPECT_TRUE(SearchTerm(hungarian, u"tma").occursIn(u"™aa"));
+}
+
 }  // namespace termvik::test

@@ -17,15 +17,16 @@ Alphabet::Alphabet(const Collator& collator, TextView characters) : collator_(co
   }
 }
 
-// Those that are a letter or more, rising. An accent that stands by itself is none of the kinds.
+// Those that are a letter or more, rising, whether they depend on their neighbours or not. An
+// accent that stands by itself is none of the kinds.
 Text Alphabet::standing(TextView characters) {
-  Text elsewhere = collator_.contextCharacters(characters);
-  for (const Tailoring& tailoring : collator_.tailorings()) elsewhere += tailoring.characters;
+  elsewhere_ = collator_.contextCharacters(characters);
+  for (const Tailoring& tailoring : collator_.tailorings()) elsewhere_ += tailoring.characters;
   Text standing;
   for (const char16_t character : characters) {
-    if (elsewhere.find(character) != Text::npos) continue;
     const TextView text(&character, 1);
     if (order(text, {}, Strength::Letters) != 0) standing += character;
+    if (isElsewhere(character)) continue;
     if (order(text, {}, Strength::Accents) == 0) ignored_ += character;
   }
   std::sort(standing.begin(), standing.end(), [this](char16_t a, char16_t b) {
@@ -35,19 +36,23 @@ Text Alphabet::standing(TextView characters) {
 }
 
 // A character is several letters when it comes after a letter and yet before that letter followed
-// by the last of all: `æ` comes after `a` and before `aö`, so it begins with the letter `a`.
+// by the last of all: `æ` comes after `a` and before `aö`, so it begins with the letter `a`. A letter
+// that depends on its neighbours can be the first of them: `t` does in Hungarian, where `ty` is a
+// letter, and yet `™` is `t` and `m`.
 void Alphabet::divide(const Text& standing) {
   Text several;
+  Text before;
   for (const char16_t character : standing) {
     const TextView text(&character, 1);
-    Text before;
-    if (!letters_.empty()) before = letters_.back().characters.substr(0, 1);
     const bool isSeveral = !before.empty() && order(before, text, Strength::Letters) < 0 &&
                            order(before + standing.back(), text, Strength::Letters) >= 0;
     if (isSeveral) {
-      several += character;
+      if (!isElsewhere(character)) several += character;
+    } else if (isElsewhere(character)) {
+      before = text;
     } else {
       addLetter(character);
+      before = letters_.back().characters.substr(0, 1);
     }
   }
   for (const char16_t character : several) {

@@ -43,6 +43,8 @@ class Alphabet {
     return collator_.compareUntailored(a, b, strength);
   }
   Text standing(TextView characters);
+  // It depends on its neighbours or has another place than in the locale's own order.
+  bool isElsewhere(char16_t character) const { return elsewhere_.find(character) != Text::npos; }
   void divide(const Text& standing);
   void addLetter(char16_t character);
   Text spelling(char16_t character) const;
@@ -53,6 +55,7 @@ class Alphabet {
   std::vector<Group> letters_;
   bool accentsFromBack_ = false;
   Text ignored_;
+  Text elsewhere_;
   std::vector<std::pair<char16_t, Text>> spelled_;
 };
 
