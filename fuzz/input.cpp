@@ -21,9 +21,15 @@ const Collation& Input::collation() {
 }
 
 Text Input::text(std::size_t most) {
+  return below(3) == 0 ? textOf(test::Dice::kOutside, most) : textOfFile(most);
+}
+
+Text Input::textOfFile(std::size_t most) {
   static const Text codePage = ansiCharacters();
-  const TextView characters =
-      oneOf(std::array<TextView, 3>{codePage, test::Dice::kHard, test::Dice::kOutside});
+  return textOf(below(2) == 0 ? TextView(codePage) : test::Dice::kHard, most);
+}
+
+Text Input::textOf(TextView characters, std::size_t most) {
   Text text;
   for (const char byte : bytes(most)) {
     text += characters[static_cast<unsigned char>(byte) % characters.size()];
@@ -31,8 +37,9 @@ Text Input::text(std::size_t most) {
   return text;
 }
 
-void expect(bool holds, const char* what) {
+void expect(bool holds, const char* what, std::initializer_list<TextView> texts) {
   if (holds) return;
+  for (const TextView text : texts) std::fprintf(stderr, "text: `%s`\n", toUtf8(text).c_str());
   std::fprintf(stderr, "does not hold: %s\n", what);
   std::abort();
 }

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <fuzzer/FuzzedDataProvider.h>
+#include <initializer_list>
 #include <string>
 
 #include "common/collation/collation.h"
@@ -31,17 +32,21 @@ class Input {
   // Of no more than `most` characters: of any that a file can hold, of those that are hard to tell
   // apart, or of those that no file can hold.
   Text text(std::size_t most);
+  Text textOfFile(std::size_t most);  // of the first two kinds
 
   // Up to its end in the input, which a backslash and another character than that mark.
   std::string bytes(std::size_t most) { return bytes_.ConsumeRandomLengthString(most); }
   std::string allBytes() { return bytes_.ConsumeRemainingBytesAsString(); }
 
  private:
+  Text textOf(TextView characters, std::size_t most);
+
   FuzzedDataProvider bytes_;
 };
 
 // Ends the program, which the fuzzer then keeps the input of, when what must hold does not.
-void expect(bool holds, const char* what);
+// Tells the texts that it is about.
+void expect(bool holds, const char* what, std::initializer_list<TextView> texts = {});
 
 // The same for two texts that must be equal, which are told when they are not.
 void expectSame(const std::string& program, const std::string& plain, const char* what);

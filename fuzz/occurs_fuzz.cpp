@@ -43,13 +43,15 @@ void fuzz(Input& input) {
   std::vector<bool> occurs;
   for (std::size_t i = 0; i < texts.ranges.size(); ++i) {
     occurs.push_back(occursPlainly(collation.collator(), term, texts.at(i)));
-    expect(searched.occursIn(texts.at(i)) == occurs.back(), "a term occurs in a text");
+    expect(searched.occursIn(texts.at(i)) == occurs.back(), "a term occurs in a text",
+           {term, texts.at(i)});
   }
   if (isAlone) return;
   const FoldedTexts folded(collation, texts.characters, texts.ranges);
   TermWalk walk(folded, term);
   for (std::size_t i = 0; i < occurs.size(); ++i) {
-    expect((walk.next(i) == i) == occurs[i], "a walk of a term stops at a text");
+    expect((walk.next(i) == i) == occurs[i], "a walk of a term stops at a text",
+           {term, texts.at(i)});
   }
 }
 
