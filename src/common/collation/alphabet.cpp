@@ -36,9 +36,9 @@ Text Alphabet::standing(TextView characters) {
 }
 
 // A character is several letters when it comes after a letter and yet before that letter followed
-// by the last of all: `æ` comes after `a` and before `aö`, so it begins with the letter `a`. A letter
-// that depends on its neighbours can be the first of them: `t` does in Hungarian, where `ty` is a
-// letter, and yet `™` is `t` and `m`.
+// by the last of all: `æ` comes after `a` and before `aö`, so it begins with the letter `a`. A
+// letter that depends on its neighbours can be the first of them: `t` does in Hungarian, where `ty`
+// is a letter, and yet `™` is `t` and `m`.
 void Alphabet::divide(const Text& standing) {
   Text several;
   Text before;
