@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Filling the list with the Swedish words of all entries and looking at its first row, against
 // std::sort of the ready weights of the same words.
 #include "packed_weights.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "folded_bytes.h"
 
 #include <algorithm>

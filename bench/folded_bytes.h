@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The yardstick of full search: the words and comments of a store as folded bytes, side by side,
 // and plain passes over them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Full search against a plain pass over the same words and comments, folded beforehand. Judged is
 // the search in all entries, from the making of the terms on, and the first one after a load, which
 // folds the texts. The user's click, which also lists the hits, is reported beside it.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // termvik-glossary, from its arguments to the file that it writes, against the program's own load
 // of the same entries.
 #include <memory>

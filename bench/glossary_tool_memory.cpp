@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // glossary_tool_memory [ENTRIES]: prints for each run of termvik-glossary over a sample with that
 // many entries how far the process grew at its peak, beside the bytes of the input. The exit status
 // is 1 when one is over its limit, which is judged from the largest sample on.

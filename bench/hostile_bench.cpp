@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files that nobody writes by hand: what is done with them must grow as n log n does.
 //
 // The yardstick is the same work on a file an eighth as large, eight times over. Where the work

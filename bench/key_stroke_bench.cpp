@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A key stroke: one edit of the search text, with all that the program does before the next one,
 // against one pass over the ready weights of the list's rows.
 #include <cstdlib>

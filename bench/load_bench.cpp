@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Loading both glossaries against the least work that gives entries: each file mapped and, in one
 // pass, decoded and cut into words. That pass knows nothing of collation, broken files or other
 // code pages, and reads each file once; the store reads it twice, first to measure it.

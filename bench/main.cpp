@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs the benchmarks of one executable and prints a line for each. The exit status is 1 when one
 // of them is over its limit.
 #include <cstdio>

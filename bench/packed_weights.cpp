@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "packed_weights.h"
 
 #include <algorithm>

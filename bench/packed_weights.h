@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The yardstick of the list: the ready weights of its words side by side, one byte a letter, and
 // what is the least to do with them. Nobody who sorts, looks up or compares words can do without.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The most memory that this process has had so far. Linux only: the kernel knows it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "sample_glossary.h"
 
 #include <fstream>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A made-up glossary of any size, the same in every run.
 #pragma once
 

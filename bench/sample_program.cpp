@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "sample_program.h"
 
 #include "sample_glossary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's modules at work on a sample glossary, on the memory toolkit.
 #pragma once
 

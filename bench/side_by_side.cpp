@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "side_by_side.h"
 
 #include <algorithm>

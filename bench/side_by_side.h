@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Measures the program's work against a yardstick: work on the same data that nobody could do
 // without. Both are done in turn in one process, so that what else the machine does meets both
 // alike, and what counts is the ratio of the two times.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // store_memory [ENTRIES]: starts the program on a sample with that many entries, with both
 // glossaries in the list, and prints how far the process grew beyond the empty one at its peak,
 // beside the bytes of the files. The exit status is 1 when that is over the limit, which is judged

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Runs of termvik-glossary over a sample glossary, in every format with a limit.
 #pragma once
 

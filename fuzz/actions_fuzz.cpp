@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sequences of a user's acts against a small model of the window.
 #include <array>
 #include <string>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Both glossary files through all that the program shows of them: the lists of four languages, each
 // article, the report of doublets and the export, against a plain reading.
 #include <array>

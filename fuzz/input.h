@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a fuzz target is made of: the choices and texts that the fuzzer's bytes stand for, and a
 // check that stops it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's files in memory. Where it asks whether a file is there, it looks at a folder of the
 // disk, in which empty ones stand for them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // "Occurs in" against all stretches of the texts: the term alone, and on its way through many
 // texts.
 #include <algorithm>

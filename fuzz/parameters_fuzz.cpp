@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The parameter file: its six values against a plain reading, what is written of them, and a start
 // of the program with them.
 #include <algorithm>

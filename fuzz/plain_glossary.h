@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the glossary files mean, read the plainest way: line by line, each question put to the
 // collator, each text a copy.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window as a user knows it, without a window: what each act does to the list, the
 // selection, the article and the buttons.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rows of a list as a plain vector, looked through from its beginning each time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Conversions by termvik-glossary in memory.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A session of the program on the memory toolkit, and beside it the plain one that it is held to.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sorted rows against a plain vector that the collator orders.
 #include <algorithm>
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tables, with commas, semicolons or tabs, through termvik-glossary and back.
 #include <utility>
 

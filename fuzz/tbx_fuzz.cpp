@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TermBase eXchange through termvik-glossary and back.
 #include "input.h"
 #include "run_tool.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The order and the equality of words, and that the quicker ways to them give the same answers.
 #include "common/collation/folded_texts.h"
 #include "support/desk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files that fail, come short, change while they are read, or are too large: what the user has is
 // kept, and the program goes on with what it got.
 #include "common/system/line_reader.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the bytes of the glossary files to the table of entries, and back.
 #include <set>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The look-up over the head words of dictionaries: tens of thousands of real words of Swedish,
 // English and French.
 #include <fstream>

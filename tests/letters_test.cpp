@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The letters of characters, and the search for letters, held against what takes longer.
 #include "letters.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rule of the search box, over rows without a window.
 #include "lookup/look_up.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The search box: look-up in the list, the keys that the box must not see, and full search.
 #include "lookup/search_words.h"
 #include "support/desk.h"

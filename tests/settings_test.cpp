@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the program remembers from one run to the next.
 #include "support/desk.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The two glossaries that are shipped: what whoever adds words to them promises (data/README.md).
 #include <map>
 #include <set>

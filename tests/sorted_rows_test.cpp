@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rows of the sorted list against a plain vector of rows.
 #include "common/collation/sorted_rows.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The windows themselves, the commands whose outcome hangs on files that come and go, and what a
 // replay script may not do.
 #include "support/desk.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The least Qt window with the same controls at the same places as the program's: what any program
 // with that window waits for. It has Qt's own font, no picture, no texts but captions, and does
 // nothing.

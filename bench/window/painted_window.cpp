@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "painted_window.h"
 
 #include <csignal>

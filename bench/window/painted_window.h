@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Programs on an X display as a person meets them: started, and there when their window is painted.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the process's start to the first painted window, on a real display. The program as it is
 // shipped is held against the least Qt window; with a sample's glossaries it may add to that
 // window's limit what its modules take for a load and a fill without a window, and nothing else.

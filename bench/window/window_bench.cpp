@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program in its Qt window under the keys and clicks of a person. The yardstick is that
 // person's patience, a time; the work is the slowest act of many, from the key or the click until
 // the window has come to rest, painted.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program where Qt carries its window.
 #include <cstdio>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program where the Windows API carries its window.
 #include <cstdlib>
 #include <windows.h>

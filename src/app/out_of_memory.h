@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // For a main whose program runs out of memory where it cannot go on.
 #pragma once
 

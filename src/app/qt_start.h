@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // While Qt looks for a display and a way to show windows on it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/frm_about.h"
 
 #include "common/system/numbers.h"

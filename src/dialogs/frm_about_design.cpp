@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "dialogs/frm_about_design.h"
 
 #include "common/system/maker.h"

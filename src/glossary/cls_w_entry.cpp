@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "glossary/cls_w_entry.h"
 
 #include "entry_texts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "glossary/def_words.h"
 
 #include <utility>

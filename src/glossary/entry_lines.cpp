@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "glossary/entry_lines.h"
 
 namespace termvik {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "entry_texts.h"
 
 namespace termvik {

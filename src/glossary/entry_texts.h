@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The texts of all entries of one glossary: for each entry its words in file order, then its
 // comment. A text is a range of the lines' characters.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "glossary/full_search.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "glossary/line_table.h"
 
 #include "common/system/codepage.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The commands that change what the list is made of: search mode, language, doublet marks, reading
 // the files again; the search text stays in its box through all of them. And the doublet report.
 #include "lookup/doublets.h"

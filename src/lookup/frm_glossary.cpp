@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookup/frm_glossary.h"
 
 #include <new>

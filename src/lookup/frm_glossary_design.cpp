@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookup/frm_glossary_design.h"
 
 #include "common/system/maker.h"

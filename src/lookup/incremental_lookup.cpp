@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The search box as the keyboard front of the list: each change of its text selects the row that
 // fits best, and the arrow and page keys move the selection.
 #include "lookup/frm_glossary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the main window's controls follow its size.
 #include <cmath>
 

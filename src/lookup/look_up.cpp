@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookup/look_up.h"
 
 namespace termvik {

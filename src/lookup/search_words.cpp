@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookup/search_words.h"
 
 #include "common/system/mathlib.h"

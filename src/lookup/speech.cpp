@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // When the main window speaks, to a person who does not see it: at the end of each of the user's
 // acts that has moved the selection or changed what the list holds.
 #include "lookup/frm_glossary.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "spoken.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the main window says to a person who does not see it. Each utterance is whole in itself, as
 // it cuts off the one before.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The word list and the article: fills the list with the words of the chosen glossaries or with the
 // hits of a search, moves the selection and shows the selected row's entry.
 #include <algorithm>

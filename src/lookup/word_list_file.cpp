@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Writes the entries behind the rows of the list as a glossary file of their own.
 #include "common/system/codepage.h"
 #include "common/system/files.h"

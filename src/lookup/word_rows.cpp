@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "lookup/word_rows.h"
 
 namespace termvik {

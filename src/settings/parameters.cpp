@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The table of values and its file.
 #include "settings/parameters.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Upper case for the names of parameters and windows, which are plain ASCII.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a window stood: into the slots at closing, out of them at start.
 #include <optional>
 

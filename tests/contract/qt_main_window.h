@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The real main window, for the tests of what a person finds in it.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the real main window goes along with the habits and the desktop of a person.
 #include <algorithm>
 #include <cmath>

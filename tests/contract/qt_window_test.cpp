@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person finds in the real main window beyond what the program asks of a toolkit.
 #include <QAccessible>
 #include <QApplication>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What every toolkit promises to the program, with real acts of a person's hands on its real
 // controls.
 #include <algorithm>

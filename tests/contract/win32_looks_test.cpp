@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the real windows look: fonts, captions and pictures at every resolution.
 #include <algorithm>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a screen reader is told of the main window, by the events that it gets where the system has
 // no notifications.
 #include <string>

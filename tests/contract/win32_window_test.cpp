@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person does in the real main window beyond what the program asks of a toolkit.
 #include <array>
 #include <future>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What `check` says of a glossary, and whether the program agrees.
 #include <set>
 

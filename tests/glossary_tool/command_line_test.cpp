@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the command line means, and what becomes of files.
 #include "run.h"
 

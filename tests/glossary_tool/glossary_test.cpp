@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's own format, in and out.
 #include "run.h"
 

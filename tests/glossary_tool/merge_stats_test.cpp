@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // `merge` and `stats`.
 #include "run.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random entries through every format and back, and random damage to files of every format.
 #include "files_in_out.h"
 #include "glossary_file.h"

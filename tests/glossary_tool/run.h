@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A run of termvik-glossary in a scratch folder.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tables and translation tools' glossaries, as people have them.
 #include "run.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TermBase eXchange in the forms in which tools write it.
 #include "run.h"
 

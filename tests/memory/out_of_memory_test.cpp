@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What happens when memory runs out: one message, an empty window that can be used, and files as
 // they were.
 #include <new>

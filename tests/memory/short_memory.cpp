@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "short_memory.h"
 
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Memory that can be made to run out.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A desk to try the program at: a scratch folder for its files, hands on the memory toolkit that
 // take the replay tool's commands, and short words for what they see. Texts are UTF-8.
 #pragma once

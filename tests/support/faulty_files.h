@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The files of the disk, with one operation that fails, and with a count of what is done to them.
 #pragma once
 

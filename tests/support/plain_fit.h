@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rule of the look-up as it reads, row by row and part by part: what takes a shorter way is
 // held against it.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A glossary store over files in a scratch folder, and random texts. Texts are UTF-8.
 #pragma once
 

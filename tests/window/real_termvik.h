@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Termvik.exe as another program of the desktop sees it, and what that program can do to it: with
 // window messages, the clipboard and the mouse.
 #pragma once

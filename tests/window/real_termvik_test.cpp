@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Drives Termvik.exe as another program of the desktop does.
 //
 //   real_termvik_test PROGRAM SCRATCH

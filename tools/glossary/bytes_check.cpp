@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bytes_check.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the bytes of a glossary file tell before any line is read.
 #pragma once
 

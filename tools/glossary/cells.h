@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The cells of a table: RFC 4180 for any delimiter, with each line end that editors know.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // `check`: what the program will not show of a glossary file, and what else is odd about it.
 #pragma once
 

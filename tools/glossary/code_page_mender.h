@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What of a text Windows-1252 cannot hold.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The columns of a table: which of them hold words of a language or the comment.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // `convert`, `merge` and `stats`: inputs in, one list of entries, a result out.
 #pragma once
 

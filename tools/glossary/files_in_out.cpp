@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files_in_out.h"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Whole files in, and one file out: whole or not at all.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What there is to say of the lines of a glossary file.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The formats of word lists, and what the command line says of the files in them.
 #pragma once
 

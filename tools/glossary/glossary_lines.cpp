@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "glossary_lines.h"
 
 #include <algorithm>

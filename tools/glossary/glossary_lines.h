@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A glossary file cut into lines, and what the program makes of each of them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the help of each command says beside its options.
 #pragma once
 

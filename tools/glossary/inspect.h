@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the program makes of each line of a glossary file, and what of that its writer can hardly
 // have meant.
 #pragma once

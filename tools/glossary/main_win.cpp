@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The command line comes in the code page of the system unless it is asked for in full, and a
 // console shows all characters only when it is written to in UTF-16.
 #include <conio.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "mending.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What happens to entries on their way into any format.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // `merge`: which entries of several inputs are one.
 #pragma once
 

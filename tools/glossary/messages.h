@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the tool says while it works: sentences on standard error, and a line that shows how far
 // long work has come.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A translation tool's glossary: source, target and comment, parted by tabs.
 #pragma once
 

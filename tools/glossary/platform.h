@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What main and the tests need of the platform.
 #pragma once
 

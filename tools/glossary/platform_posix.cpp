@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files and arguments where paths are bytes.
 #include <sys/stat.h>
 

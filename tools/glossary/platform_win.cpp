@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files and arguments where paths are UTF-16.
 #include <io.h>
 #include <windows.h>

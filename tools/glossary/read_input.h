@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An input of any format as entries.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // `stats`: how much there is in word lists.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a run of the tool reads from and writes to beside the files that it is given.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Tables of words: a row an entry, a column a language.
 #pragma once
 

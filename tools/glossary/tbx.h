@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // TermBase eXchange: concepts with terms in languages.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "text_in.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The characters of a file that somebody's editor, spreadsheet or other program has saved.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Text on its way into a file in UTF-8, many small pieces at a time.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tool behind the entry point that the platform asks for.
 #pragma once
 

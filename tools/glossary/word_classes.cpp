@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "word_classes.h"
 
 #include <numeric>

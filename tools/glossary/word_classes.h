@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which of many words are the same word.
 #pragma once
 

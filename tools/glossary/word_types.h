@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Word types as the program tells them apart.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a file of any format holds: entries of words and a comment, each text with its place.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "xml_reader.h"
 
 #include <algorithm>

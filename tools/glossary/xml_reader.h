@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // An XML file, told element by element. No external entity and no DTD is ever loaded.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What termvik-replay prints: one JSON object a line.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tool.h"
 
 int main(int count, char** arguments) {

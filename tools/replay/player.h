@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Plays a script of a user's acts on the real program.
 #pragma once
 

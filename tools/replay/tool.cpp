@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // termvik-replay: the program under a script of what a user does.
 //
 //   termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT] [--say] --folder DIR

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The tool, called by the entry point that the platform asks for.
 #pragma once
 

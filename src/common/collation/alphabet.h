@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the collator's order says of single characters, found out by comparing: which of them are
 // one letter, which are several, and how the letters follow one another.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "common/collation/collation.h"
 
 #include "collator.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The platform's comparison of texts: the judge of every order and every equality of words.
 //
 // Letters and accents count, case does not. `ß` equals `ss`, `æ` equals `ae`, `œ` equals `oe`

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The judge where ICU is the platform's collation.
 #include <array>
 #include <cstdlib>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The judge where Windows collates.
 //
 // Windows compares two texts as it compares their sort keys. A key is the weights of the letters

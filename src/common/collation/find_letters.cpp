@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "find_letters.h"
 
 #include <algorithm>

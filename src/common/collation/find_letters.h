@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The search for a few letters in very many: the inner loop of full search.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "common/collation/folded_texts.h"
 
 #include <algorithm>

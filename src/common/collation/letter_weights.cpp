@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "letter_weights.h"
 
 namespace termvik {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the collator's elements back to letters, for texts that are not made of known characters.
 #pragma once
 

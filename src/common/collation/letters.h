@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The letters that the program's texts are made of: for every character that a file can hold, what
 // the collator makes of it, computed once, so that long walks over texts are walks over bytes.
 //

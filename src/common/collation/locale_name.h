@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Names of locales as the environment writes them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "common/collation/search_term.h"
 
 #include <algorithm>

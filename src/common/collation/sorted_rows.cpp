@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "common/collation/sorted_rows.h"
 
 #include <algorithm>

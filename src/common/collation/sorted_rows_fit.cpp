@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How far the sorted rows fit a text: the walk of the look-up along them.
 #include <algorithm>
 #include <array>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "wanted_text.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A text that the rows are held to: how long a leading part of it a row begins with.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's surroundings on Windows.
 #include <array>
 #include <string>

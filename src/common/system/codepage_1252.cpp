@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Windows-1252, the code page of the files on platforms that have no ANSI code page of their own.
 #include <algorithm>
 

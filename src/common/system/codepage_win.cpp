@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The system's ANSI code page. Where that is UTF-8, the files are in Windows-1252 as they are
 // everywhere else. In the double-byte pages of East Asia a lead byte and the byte after it give
 // one character; no such byte is a CR or an LF, so that lines end where they always end.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files by name where paths are bytes.
 #include "common/system/files.h"
 #include "system_file.h"

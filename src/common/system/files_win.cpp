@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Files by name where paths are UTF-16.
 #include "common/system/files.h"
 #include "common/system/wide_win.h"

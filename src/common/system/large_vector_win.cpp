@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "common/system/large_vector.h"
 
 namespace termvik {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "common/system/line_reader.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How each platform opens a file by its path.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // UTF-8 conversion where ICU is the platform's text library.
 #include <unicode/ustring.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // UTF-8 conversion by Windows, which puts U+FFFD for what is not well formed.
 #include <windows.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The state of controls, shared by all toolkits.
 #include "common/toolkit/control.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/hands/hands_by_name.h"
 
 #include "toolkit/memory/memory_hands.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "memory_controls.h"
 
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The memory toolkit's controls and window, with what a user can do to each.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/memory/memory_hands.h"
 
 #include <algorithm>

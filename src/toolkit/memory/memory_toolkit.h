@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The toolkit without a screen: keeps the contract and shows nothing. For tests, benchmarks
 // and termvik-replay.
 #pragma once

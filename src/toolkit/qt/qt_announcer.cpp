@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A notification in a status bar, as readers tell of at once and by its text alone: they cut off
 // what they are saying, call the notification by no other word, and follow the caret as before.
 // Both exist for the reader only.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the window says to a screen reader without a change of its focus.
 #pragma once
 

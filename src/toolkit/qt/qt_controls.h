@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Controls that are one Qt widget each, without behaviour of their own.
 #pragma once
 

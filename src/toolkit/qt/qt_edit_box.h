@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A box of one line in which the user writes.
 #pragma once
 

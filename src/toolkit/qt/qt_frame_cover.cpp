@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt_frame_cover.h"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What lies over the frame of an area that scrolls.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "qt_list_box.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu, the controls and the keys of a window, made from its design.
 #include <QAccessible>
 #include <QAction>

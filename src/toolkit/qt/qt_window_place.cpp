@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a window stands, in twips and in pixels.
 #include <algorithm>
 

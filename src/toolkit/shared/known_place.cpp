@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/shared/known_place.h"
 
 namespace termvik {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/shared/pixels.h"
 
 #include <algorithm>

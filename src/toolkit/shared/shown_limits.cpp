@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/shared/shown_limits.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // By a notification where the system has them (from Windows 10 1709 on), otherwise by a live
 // region: a label without extent whose change readers tell of.
 #include "win32_announcer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a window says to a screen reader without a change of its focus.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Controls that are one window of Windows each; those without behaviour of their own stand here.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "win32_edit_box.h"
 
 #include <commctrl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "win32_icons.h"
 
 #include "win32_resources.h"

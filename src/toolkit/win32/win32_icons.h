@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's icon on a window, in the sizes that go with the window's resolution.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "win32_list_box.h"
 
 #include "toolkit/shared/shown_limits.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sorted list: a list view over the rows, without a copy of any of them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a screen reader says of a window or control that has no caption, and of a control's group.
 #pragma once
 

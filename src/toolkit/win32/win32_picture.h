@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The logo.
 #pragma once
 

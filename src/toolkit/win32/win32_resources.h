@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The numbers of what lies in the program beside its code. Read by the resource compiler too, so
 // they are macros.
 #pragma once

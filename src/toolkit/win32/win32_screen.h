@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Screens, their resolutions and the fonts that go with them.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Between the program's texts and measures and those of Windows.
 #pragma once
 

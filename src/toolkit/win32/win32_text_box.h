@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A box of several lines that the user reads.
 #pragma once
 

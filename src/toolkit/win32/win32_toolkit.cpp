@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "toolkit/win32/win32_toolkit.h"
 
 #include <commctrl.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "win32_window.h"
 
 #include <algorithm>

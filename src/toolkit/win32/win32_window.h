@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A window of the program as a window of Windows.
 #pragma once
 

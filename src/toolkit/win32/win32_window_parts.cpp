@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The menu and the controls of a window, made from its design.
 #include <algorithm>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a window and its controls stand, in twips and in pixels.
 #include <algorithm>
 #include <utility>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's modules, put together around one toolkit.
 #pragma once
 

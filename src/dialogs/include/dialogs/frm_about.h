@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The About box: who made the program and which version it is.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the About box is made of.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One glossary entry: the words of one concept, each with a word type that stands for its language,
 // and an optional comment.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The glossary store: reads the two glossary files, cuts their lines into blocks and keeps the
 // entries of both in one table.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which lines of a file make an entry, and what each of them is to it: the inside of a block.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Full search: the entries that hold at least one of some terms, in a word of any language or in
 // the comment.
 #pragma once

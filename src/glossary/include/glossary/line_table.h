@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The lines of a glossary file, and what each of them is.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Doublets: words that stand in more than one row of the list. Equal rows lie together in it, so
 // neighbours are all that has to be compared.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The main window: the search box, the sorted list of words, the article, and the commands that
 // change what the list holds.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the main window is made of.
 #pragma once
 

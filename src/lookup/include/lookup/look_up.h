@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rule of the search box: which row a search text leads to.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a search text asks for.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rows of the list as rules over the store: what the chosen glossaries give, and what a search
 // gives.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The settings: six named values, the file that mirrors them, and the window placement that they
 // remember. Settings never stop the program: what fails here ends silently.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How the program compares words: one order and one equality for the list, the look-up, the search
 // and the files.
 #pragma once

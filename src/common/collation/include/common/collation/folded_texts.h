@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Many texts made ready for full search: their letters, one byte each, so that one pass over bytes
 // looks for a term in all of them.
 //

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A term of full search, made ready once to be looked for in many texts.
 //
 // A term occurs in a text when some stretch of the text's characters equals it: `strasse` occurs in

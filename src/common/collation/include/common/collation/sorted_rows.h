@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The rows of the sorted list: each a text and a number, in rising order.
 //
 // One class for all toolkits. Rows count from 0. A row carries the beginning of its collation with

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Texts and keys that stay where they are until all of them go.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The 8-bit code page of the program's files: the system's ANSI code page, Windows-1252 where the
 // platform has none.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's files: where they lie, and how they are opened, read and written.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Vectors of many megabytes.
 //
 // The system gives memory page by page, and to be given a page takes longer than to fill it: large

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A text file as lines. A line ends at CR LF or at a lone CR; a lone LF is a character of its line.
 // A line end that is the last thing in the file opens no further line.
 #pragma once

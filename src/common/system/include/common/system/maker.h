@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the windows say of the program's maker.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Small operations that several modules share.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Numbers as text, with the decimal separator of the user's locale.
 #pragma once
 

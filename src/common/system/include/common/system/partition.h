@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Looking for a point that is mostly near.
 #pragma once
 

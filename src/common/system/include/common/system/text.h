@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's texts: UTF-16 strings in which a character is one element.
 #pragma once
 

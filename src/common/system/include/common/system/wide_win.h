@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program's texts as the Windows API takes and gives them: both are UTF-16.
 #pragma once
 

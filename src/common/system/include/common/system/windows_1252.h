@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The code page Windows-1252.
 #pragma once
 

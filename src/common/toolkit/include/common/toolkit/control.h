@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The controls of a window.
 //
 // A control keeps its state in the classes of this file, the same for every toolkit; a toolkit

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The contract with a window toolkit: what the program asks of it, and what it may rely on.
 //
 // The members bear the field's names for them. Events are the `std::function` members. An event is

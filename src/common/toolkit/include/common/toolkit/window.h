@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A window of the program.
 #pragma once
 

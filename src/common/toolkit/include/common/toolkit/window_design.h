@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a window is made of, as data: every toolkit builds its windows from these tables.
 //
 // All measures are in twips (1440 to the inch). `left` and `top` count from the top left corner of

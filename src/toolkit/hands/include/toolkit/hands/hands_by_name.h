@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The hands of every toolkit that this build has, by the toolkit's name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hands on the toolkit without a screen.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hands on a Qt window: real key and mouse events on real widgets.
 #pragma once
 

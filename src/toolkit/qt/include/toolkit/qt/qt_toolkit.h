@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The toolkit of Qt Widgets. Needs a QApplication.
 #pragma once
 

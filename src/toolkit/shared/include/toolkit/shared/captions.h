@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Fonts small enough that no caption is clipped in the place it was designed for.
 #pragma once
 

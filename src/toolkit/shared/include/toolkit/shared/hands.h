@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a person does to a window and sees of it: the hands of the tests and of termvik-replay. One
 // pair for each toolkit, so that the same acts can be done on all of them.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Where a window stands, as the program knows it: the outer rectangle to the fraction of a twip
 // that the program wrote, while the screen has whole pixels only.
 #pragma once

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Between the twips of the program and the pixels of a screen.
 #pragma once
 

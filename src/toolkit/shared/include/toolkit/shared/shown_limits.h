@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How much of a very long text a window shows.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Hands on the Windows toolkit: real messages to the real controls.
 #pragma once
 

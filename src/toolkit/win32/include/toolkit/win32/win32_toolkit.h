@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The toolkit of the Windows API.
 #pragma once
 
