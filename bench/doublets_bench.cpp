@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Marking the doublets of a filled list, as the program does behind each filling, against one pass
+// Marking the doublets of a filled list, as the program does after each filling, against one pass
 // over the sorted weights of the same words, each held against its neighbour.
 #include "lookup/doublets.h"
 #include "packed_weights.h"

@@ -22,7 +22,7 @@ class FoldedBytes {
   std::size_t countByFirstByte(std::string_view term) const;
 
  private:
-  std::string bytes_;  // a 0 behind each text
+  std::string bytes_;  // a 0 after each text
 };
 
 }  // namespace termvik::bench

@@ -105,7 +105,7 @@ class Panel:
                 yield self.line(ends, "guide")
 
     def labels(self, first_colour):
-        """Each line's name behind its end, apart from each other."""
+        """Each line's name after its end, apart from each other."""
         ends = sorted((self.y(values[max(values)]), name) for name, values in self.kinds.items())
         order = list(self.kinds)
         floor = self.top

@@ -46,7 +46,7 @@ Typed& typedOf(std::int64_t rows) {
   return all.try_emplace(rows, rows).first->second;
 }
 
-// Each stroke comes behind an untimed one that empties the box, so that each is a real edit.
+// Each stroke comes after an untimed one that empties the box, so that each is a real edit.
 void keyStroke(benchmark::State& state, const Text& text, double limit) {
   Typed& typed = typedOf(state.range(0));
   const std::string wanted = PackedWeights::weightsOf(swedish(), text);

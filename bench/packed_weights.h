@@ -35,7 +35,7 @@ class PackedWeights {
   static std::size_t countDoublets(const std::vector<const char*>& places);
 
  private:
-  std::string bytes_;  // a 0 behind each word
+  std::string bytes_;  // a 0 after each word
   std::vector<std::uint32_t> begins_;
 };
 

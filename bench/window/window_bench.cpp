@@ -9,6 +9,7 @@
 #include <limits>
 #include <string>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -62,9 +63,10 @@ class PersonAtWindow {
     rest();
   }
 
-  // Each gives the time of every act and counts the acts behind which the article shown was not
+  // Each gives the time of every act and counts the acts after which the article shown was not
   // that of the row shown as selected.
   Times types(std::int32_t& staleArticles);
+  Times typesHeard(std::int32_t& staleArticles);
   Times holdsPageDown(Control& inControl, std::int32_t& staleArticles);
   Times choosesLanguages(std::int32_t& staleArticles);
   Times maximises(std::int32_t& staleArticles);
@@ -130,6 +132,14 @@ Times PersonAtWindow::types(std::int32_t& staleArticles) {
     }
   }
   hands_->replaceText(box(), {});
+  return times;
+}
+
+// The same while a screen reader listens.
+Times PersonAtWindow::typesHeard(std::int32_t& staleArticles) {
+  QAccessible::setActive(true);
+  Times times = types(staleArticles);
+  QAccessible::setActive(false);
   return times;
 }
 
@@ -210,6 +220,7 @@ void addAct(const std::string& name, double patience, const Act& act) {
 
 void addBenchmarks() {
   addAct("typing", kKey, [](auto& stale) { return person().types(stale); });
+  addAct("typing_heard", kKey, [](auto& stale) { return person().typesHeard(stale); });
   addAct("page_down_in_box", kKey,
          [](auto& stale) { return person().holdsPageDown(person().box(), stale); });
   addAct("page_down_in_list", kKey,

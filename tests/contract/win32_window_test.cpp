@@ -56,7 +56,7 @@ TEST_F(Win32MainWindow, ACharacterThatNoBoxShowsCutsNothingShort) {
   hands->seesClipboard = [&](TextView seen) { end = seen; };
   SendMessageW(handleOf(u"txtArticle"), EM_SETSEL, static_cast<WPARAM>(shown - 5), shown);
   SendMessageW(handleOf(u"txtArticle"), WM_CHAR, 3, 1);  // Ctrl+C
-  EXPECT_EQ(end, u"wedge") << "behind breaks that the box had to add";
+  EXPECT_EQ(end, u"wedge") << "after breaks that the box had to add";
   SendMessageW(handleOf(u"txtArticle"), WM_CHAR, u'x', 1);
   EXPECT_EQ(copied(handleOf(u"txtArticle")).size(), article.text().size()) << "read only";
 }

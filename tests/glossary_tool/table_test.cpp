@@ -78,7 +78,7 @@ TEST_F(Tables, TellWhatTheyPassOver) {
       "a.csv:5: warning: the row has a comment and no word; it is passed over\n"
       "a.csv:6: warning: the row has more cells than there are columns; 'late' is passed over\n"
       "a.csv:7: warning: column 5 has no name and is passed over\n"
-      "a.csv:8: warning: text stands behind a closing quote; it is taken as it is\n");
+      "a.csv:8: warning: text stands after a closing quote; it is taken as it is\n");
   EXPECT_EQ(last.status, 1);
   EXPECT_EQ(rows("a.csv", "S\na\n\"b\nc\n"),
             "a.csv:3: error: a cell begins with a quote and never ends\n");
@@ -129,7 +129,7 @@ TEST_F(Tables, OfATranslationToolHavePairsOfWords) {
   EXPECT_EQ(last.err,
             "a.utf8:5: warning: the row lacks its source or target; it is passed over\n"
             "a.utf8:6: warning: the row lacks its source or target; it is passed over\n"
-            "a.utf8:7: warning: cells behind the third one are passed over\n");
+            "a.utf8:7: warning: cells after the third one are passed over\n");
   options = pair;
   options.insert(options.end(), {"--to", "omegat"});
   EXPECT_EQ(converted("a.csv", "S,E,D,C\na|b,c|d,e,\"f\ng\"\nh\ti,j\n,k\n\"l\tm\",\n", options),

@@ -35,7 +35,7 @@ struct Request {
   std::string text;
 };
 
-// `arguments` are what stands behind the program's name. Throws Failure for wrong usage.
+// `arguments` are what stands after the program's name. Throws Failure for wrong usage.
 Request readArguments(const std::vector<std::string>& arguments, const Collation& collation);
 
 }  // namespace termvik::tool

@@ -21,7 +21,7 @@ struct Cell {
 struct Row {
   std::vector<Cell> cells;
   std::uint32_t line = 1;
-  bool strayText = false;  // behind the closing quote of a cell; it counts as part of the cell
+  bool strayText = false;  // after the closing quote of a cell; it counts as part of the cell
 };
 
 class CellReader {

@@ -12,7 +12,7 @@ namespace termvik::tool {
 namespace {
 
 constexpr std::size_t kUnits = 0x10000;
-constexpr unsigned kFirstOther = 0x80;  // behind ASCII, which is in every code page
+constexpr unsigned kFirstOther = 0x80;  // after ASCII, which is in every code page
 
 bool isInCodePage(char16_t character) {
   return character == u'?' || windows1252::encode(character) != '?';

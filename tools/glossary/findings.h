@@ -12,7 +12,7 @@
 
 namespace termvik::tool {
 
-// The kinds of findings; `code` stands in brackets behind each.
+// The kinds of findings; `code` stands in brackets after each.
 struct Kind {
   std::string_view code;
   Severity severity = Severity::Error;

@@ -73,7 +73,7 @@ class Mender {
     if (any) entry.comment.push_back({list_.keep(all), place});
   }
 
-  // The first line of a comment stands behind its mark, where it can be anything.
+  // The first line of a comment stands after its mark, where it can be anything.
   Text mendedLine(TextView plain, Place place, bool isFirst) {
     Text line =
         isPlainInCodePage(plain) ? Text(plain) : inCodePage(plain, place, lossy_, messages_);
@@ -108,7 +108,7 @@ void append(std::string& bytes, TextView text) {
   }
 }
 
-// Blanks behind the mark would be lost, those of a line of its own stay.
+// Blanks after the mark would be lost, those of a line of its own stay.
 void appendComment(std::string& bytes, TextView comment) {
   append(bytes, comment.starts_with(u' ') ? u"C:\r\n" : u"C: ");
   for (std::size_t end = comment.find(u'\n'); end != TextView::npos; end = comment.find(u'\n')) {

@@ -64,10 +64,10 @@ class BlockVisitor {
     const TextView text = table()[line];
     constexpr std::size_t kMark = 2;  // characters
     if (text.size() == kMark) {
-      find(kinds::kEmptyWord, line, "no word stands behind " + inQuotes(text));
+      find(kinds::kEmptyWord, line, "no word stands after " + inQuotes(text));
     } else if (text[kMark] != u' ') {
       find(kinds::kLostLetter, line,
-           inQuotes(text) + " has no blank behind its mark; its third character is lost");
+           inQuotes(text) + " has no blank after its mark; its third character is lost");
     }
     if (!isLanguage(type)) {
       find(kinds::kWordType, line, inQuotes(text.substr(0, kMark)) + " stands for no language");

@@ -69,7 +69,7 @@ void readOmegaT(const Text& text, std::uint16_t input, const ReadOptions& option
       continue;
     }
     if (row.moreCells) {
-      messages.tell(Severity::Warning, place, "cells behind the third one are passed over");
+      messages.tell(Severity::Warning, place, "cells after the third one are passed over");
     }
     // A row with the same source and comment as the one before is one more target of it.
     if (list.entries.size() == firstEntry || commentOf(list.entries.back()) != comment ||

@@ -20,7 +20,7 @@ std::optional<FileId> idOf(HANDLE file) {
   return FileId(facts.dwVolumeSerialNumber, high | facts.nFileIndexLow);
 }
 
-// A byte behind the first one of a character: it holds six bits of the code.
+// A byte after the first one of a character: it holds six bits of the code.
 constexpr unsigned kFurther = 0x80;
 constexpr unsigned kFurtherBits = 0x3F;
 
@@ -42,7 +42,7 @@ void appendUtf8(std::string& bytes, unsigned code) {
   }
 }
 
-// The code of the character at `at`, which goes behind it. The bytes come from appendUtf8.
+// The code of the character at `at`, which goes after it. The bytes come from appendUtf8.
 unsigned takeCode(std::string_view bytes, std::size_t& at) {
   const auto first = static_cast<unsigned char>(bytes[at++]);
   if (first < 0x80) return first;

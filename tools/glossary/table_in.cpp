@@ -92,7 +92,7 @@ void TableReader::addWords(const Cell& cell, char16_t type, Entry& entry) {
 }
 
 void TableReader::add(const Row& row) {
-  if (row.strayText) warn(row.line, "text stands behind a closing quote; it is taken as it is");
+  if (row.strayText) warn(row.line, "text stands after a closing quote; it is taken as it is");
   Entry entry{.place = {row.line, input_}, .words = {}, .comment = {}};
   entry.words.reserve(row.cells.size());
   for (std::size_t i = 0; i < std::min(columns_.size(), row.cells.size()); ++i) {

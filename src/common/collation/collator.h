@@ -19,7 +19,7 @@ namespace termvik {
 struct CollationElement {
   std::uint32_t primary = 0;    // the letter; 0 for none
   std::uint32_t secondary = 0;  // the accent or kind of the letter
-  std::int32_t end = 0;         // characters of the text used up behind this element
+  std::int32_t end = 0;         // characters of the text used up after this element
 };
 
 // Characters that the judge places elsewhere than the platform's own order of the locale does.

@@ -3,7 +3,7 @@
 //
 // Windows compares two texts as it compares their sort keys. A key is the weights of the letters
 // (two bytes each), the accents and the kinds of the letters (a byte each; those at the end that
-// are the usual ones are left out), and whatever else some scripts need, each part behind a byte 1.
+// are the usual ones are left out), and whatever else some scripts need, each part after a byte 1.
 // So the keys of short pieces tell the collation elements.
 #include <algorithm>
 #include <array>
@@ -112,7 +112,7 @@ struct Collator::Platform {
   bool accentsFromBack = false;  // the key has the accents of the last letters first
 
   // Of the characters of a file those whose keys are no more than letters and accents, and which of
-  // them, one behind the other, have another key than each its own.
+  // them, one after the other, have another key than each its own.
   std::unordered_map<char16_t, SortKey> plain;
   std::set<std::pair<char16_t, char16_t>> joined;
 

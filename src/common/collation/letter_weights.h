@@ -17,11 +17,11 @@ class LetterWeights {
   LetterWeights(const Collator& collator, const Letters& letters, TextView characters);
 
   // The letter that consists of these elements of a text, kNoLetter when no known character does.
-  // `next` comes in as the index of the first element and goes to the one behind the letter.
+  // `next` comes in as the index of the first element and goes to the one after the letter.
   Letter letterAt(const std::vector<CollationElement>& elements, std::size_t& next) const;
 
  private:
-  // A letter's primary weight and all its secondary weights: accents that stand behind a letter's
+  // A letter's primary weight and all its secondary weights: accents that stand after a letter's
   // first element belong to that letter.
   using Weights = std::pair<std::uint32_t, std::vector<std::uint32_t>>;
 

@@ -16,7 +16,7 @@ class LetterWalk {
  public:
   LetterWalk(const Letters& letters, TextView text) : letters_(letters), text_(text) {}
 
-  // kNoLetter behind the last.
+  // kNoLetter after the last.
   Letter next() {
     for (; !text_.empty(); text_.remove_prefix(1), taken_ = 0) {
       const CharacterLetters& entry = letters_.of(text_.front());

@@ -22,7 +22,7 @@ SortedRows::Lead SortedRows::leadOf(const WantedText& text, std::size_t length) 
 // One walk for parts of all lengths: a row is looked at only where its ranks are those of a longer
 // part than any row before it begins with. It ends at a row past them, not at one that sorts after
 // the text for an accent's sake: after `nœud` come `noir` and `nom`, which begin with `no`. Nor at
-// one whose text was replaced: behind `färg` with a mark may come `färg-balans`.
+// one whose text was replaced: after `färg` with a mark may come `färg-balans`.
 SortedRows::Fit SortedRows::bestFit(TextView text, std::int32_t from) const {
   const WantedText wanted(*collation_, text);
   const auto& entries = ordered();

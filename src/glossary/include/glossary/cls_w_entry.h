@@ -45,7 +45,7 @@ class clsWEntry {
 
   // The entry as a block of a glossary file, without the separator line, its words rising inside
   // each word type; `wordTypesDef` names the word types to write, one letter each. Empty when `key`
-  // sorts behind a word of the first of these types.
+  // sorts after a word of the first of these types.
   Text articleForFile(TextView wordTypesDef, TextView key) const;
 
   std::int32_t entryWordCount() const { return entryWordCount_; }

@@ -67,7 +67,7 @@ class defWords {
   std::filesystem::path folder_;
   std::function<void(TextView)> showMessage_;
   const Files* files_;
-  LargeVector<clsWEntry> entries_;  // slots behind the last range are empty
+  LargeVector<clsWEntry> entries_;  // slots after the last range are empty
   std::unique_ptr<Glossary> graph_;
   std::unique_ptr<Glossary> tools_;
 };

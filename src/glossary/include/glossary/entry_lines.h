@@ -15,8 +15,8 @@ struct LineRange {
   std::int32_t last = 0;
 };
 
-// Finds the entry that begins at line `range.first` or behind it; the separator line that ends it
-// is its last. Blocks in which nothing counts are stepped over: `range.first` moves behind them.
+// Finds the entry that begins at line `range.first` or after it; the separator line that ends it
+// is its last. Blocks in which nothing counts are stepped over: `range.first` moves after them.
 // False when no line from there to the end counts; `range` is then of no use.
 bool findEntry(const LineTable& lines, LineRange& range);
 

@@ -13,7 +13,7 @@ namespace termvik {
 template <class Char>
 class TextArena {
  public:
-  // A copy of `text` with a 0 behind it.
+  // A copy of `text` with a 0 after it.
   const Char* add(std::basic_string_view<Char> text) {
     const std::size_t size = text.size() + 1;
     if (size > free_) {

@@ -23,7 +23,7 @@ class Win32Toolkit : public Toolkit {
   void MsgBox(TextView prompt) override;
   bool setClipboardText(TextView text) override;
 
-  // Handles messages as they come, until `isOver` says so behind one of them or the thread is asked
+  // Handles messages as they come, until `isOver` says so after one of them or the thread is asked
   // to quit.
   void handleMessages(const std::function<bool()>& isOver) const;
 
