@@ -89,7 +89,7 @@ class TbxHandler : public XmlHandler {
   Languages::iterator languageNamed(std::string_view tag) {
     std::string name = firstPart(tag);
     const char16_t wordType = wordTypeOf(name);
-    return languages_.insert({std::move(name), {wordType, {}, 0}}).first;
+    return languages_.try_emplace(std::move(name), Language{wordType, {}, 0}).first;
   }
 
   Place here() { return {lines_.lineOf(offset), input_}; }
