@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 // Both glossaries of the sample in one file; the second without its first line.
 fs::path joinedSample(const fs::path& folder) {
-  const fs::path joined = folder / "sample.txt";
+  fs::path joined = folder / "sample.txt";
   std::ofstream out(joined, std::ios::binary);
   std::string firstLine;
   for (const fs::path& file : glossaryFiles(folder)) {

@@ -66,6 +66,7 @@ std::optional<FileId> fileId(const std::filesystem::path& path) {
 }
 
 std::optional<FileId> openFileId(int descriptor) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the library gives it so
   return idOf(reinterpret_cast<HANDLE>(_get_osfhandle(descriptor)));
 }
 
