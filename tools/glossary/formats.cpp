@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "lower_case.h"
+
 namespace termvik::tool {
 
 namespace {
@@ -24,10 +26,6 @@ constexpr std::array<Name, 7> kEndings{{{".txt", Format::Glossary},
                                         {".xml", Format::Tbx},
                                         {".utf8", Format::OmegaT}}};
 
-char lowerCase(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-}
-
 }  // namespace
 
 std::optional<Format> formatNamed(std::string_view name) {
@@ -37,8 +35,7 @@ std::optional<Format> formatNamed(std::string_view name) {
 }
 
 std::optional<Format> formatOfFile(const std::string& fileName) {
-  std::string lower = fileName;
-  std::transform(lower.begin(), lower.end(), lower.begin(), lowerCase);
+  const std::string lower = lowerCase(fileName);
   const auto* const found = std::find_if(kEndings.begin(), kEndings.end(),
                                          [&](const Name& n) { return lower.ends_with(n.first); });
   return found == kEndings.end() ? std::nullopt : std::optional(found->second);

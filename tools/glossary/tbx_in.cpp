@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include "lower_case.h"
 #include "tbx.h"
 #include "xml_reader.h"
 
@@ -38,11 +39,7 @@ std::string_view withoutBlanks(std::string_view text) {
 }
 
 std::string firstPart(std::string_view language) {
-  std::string part(language.substr(0, language.find_first_of("-_")));
-  for (char& letter : part) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
-  }
-  return part;
+  return lowerCase(language.substr(0, language.find_first_of("-_")));
 }
 
 // The word type of a language; 0 for one that the program does not have.

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/system/windows_1252.h"
+#include "lower_case.h"
 #include "messages.h"
 
 namespace termvik::tool {
@@ -60,10 +61,7 @@ std::size_t firstBadLine(std::string_view bytes) {
 }  // namespace
 
 std::optional<Encoding> encodingNamed(std::string_view name) {
-  std::string lower(name);
-  for (char& letter : lower) {
-    if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + ('a' - 'A'));
-  }
+  const std::string lower = lowerCase(name);
   for (const auto& [known, encoding] : kNames) {
     if (lower == known) return encoding;
   }

@@ -6,27 +6,14 @@
 
 namespace termvik {
 
-void Window::setLeft(float left) {
-  Place place = outerPlace();
-  place.left = left;
-  setOuterPlace(place);
-}
+void Window::setLeft(float left) { setMeasure(&Place::left, left); }
+void Window::setTop(float top) { setMeasure(&Place::top, top); }
+void Window::setWidth(float width) { setMeasure(&Place::width, width); }
+void Window::setHeight(float height) { setMeasure(&Place::height, height); }
 
-void Window::setTop(float top) {
+void Window::setMeasure(float Place::*measure, float value) {
   Place place = outerPlace();
-  place.top = top;
-  setOuterPlace(place);
-}
-
-void Window::setWidth(float width) {
-  Place place = outerPlace();
-  place.width = width;
-  setOuterPlace(place);
-}
-
-void Window::setHeight(float height) {
-  Place place = outerPlace();
-  place.height = height;
+  place.*measure = value;
   setOuterPlace(place);
 }
 

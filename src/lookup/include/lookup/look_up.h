@@ -10,10 +10,9 @@ namespace termvik {
 
 // Rows count from 0.
 struct FoundRows {
-  std::int32_t top = 0;  // the row to select
-  std::int32_t bottom =
-      0;               // the row to bring into view with it; nothing when it is not after `top`
-  bool whole = false;  // the row begins with the whole text, which is not empty
+  std::int32_t top = 0;     // the row to select
+  std::int32_t bottom = 0;  // to come into view with it, where it stands after `top`
+  bool whole = false;       // the row begins with the whole text, which is not empty
 };
 
 // When the whole text begins some row, the run of rows that begin with it; otherwise the first row

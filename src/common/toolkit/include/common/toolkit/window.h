@@ -109,6 +109,7 @@ class Window {
     }
     failForName(name);
   }
+  void setMeasure(float Place::*measure, float value);
   [[noreturn]] static void failForName(TextView name);
 
   WindowDesign design_;
