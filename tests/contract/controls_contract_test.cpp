@@ -1,55 +1,9 @@
 // SPDX-License-Identifier: MIT
-// What every toolkit promises to the program, with real acts of a person's hands on its real
-// controls.
-#include <algorithm>
-#include <memory>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "dialogs/frm_about_design.h"
-#include "lookup/frm_glossary_design.h"
-#include "toolkit/hands/hands_by_name.h"
+// What the controls of every toolkit promise to the program, with real acts of a person's hands.
+#include "toolkit_contract.h"
 
 namespace termvik {
 namespace {
-
-class ToolkitContract : public testing::TestWithParam<std::string> {
- protected:
-  ToolkitContract() {
-    list.Click = [this] { log("list " + std::to_string(list.ListIndex())); };
-    glossary.Click = [this](std::int16_t index) { log("glossary " + std::to_string(index)); };
-    window->Resize = [this] { log("resize"); };
-    window->Show();
-    events.clear();
-  }
-
-  void log(const std::string& event) { events.push_back(event); }
-
-  // What has happened since the last call.
-  std::vector<std::string> happened() { return std::exchange(events, {}); }
-
-  OptionButton& option(TextView name, std::int32_t index) const {
-    for (const auto& control : window->controls()) {
-      if (control->design().name == name && control->design().index == index) {
-        return dynamic_cast<OptionButton&>(*control);
-      }
-    }
-    throw std::logic_error("no such option");
-  }
-
-  using Events = std::vector<std::string>;
-
-  const Collation collation{"sv_SE"};
-  const std::unique_ptr<Hands> hands = makeHands(GetParam(), collation, {28800, 16200});
-  const std::unique_ptr<Window> window = hands->toolkit().createWindow(frmGlossaryDesign());
-  EditBox& search = window->editBox(u"txtSearch");
-  TextBox& article = window->textBox(u"txtArticle");
-  ListBox& list = window->listBox(u"lstWords");
-  OptionGroup& glossary = window->optionGroup(u"optGlossary");
-  Events events;
-};
 
 TEST_P(ToolkitContract, AKeyIsSeenThenItsCharacterThenTheEdit) {
   search.KeyDown = [this](std::int16_t&) { log("down"); };
@@ -234,105 +188,9 @@ TEST_P(ToolkitContract, BoxesButtonsAndMenuItemsTellOfTheUser) {
   EXPECT_EQ(happened(), (Events{"mnuGerman", "mnuDoubletList"}));
 }
 
-TEST_P(ToolkitContract, OnlyAClickWhereNoControlIsIsOneOnTheWindow) {
-  const std::unique_ptr<Window> about = hands->toolkit().createWindow(frmAboutDesign());
-  about->Show();
-  for (Window* shown : {window.get(), about.get()}) {
-    shown->Click = [this] { log("window"); };
-    for (const auto& control : shown->controls()) {
-      happened();
-      hands->click(*control);
-      const bool isLine = control->design().kind == ControlKind::Line;
-      const Events seen = happened();
-      EXPECT_EQ(std::count(seen.begin(), seen.end(), "window"), isLine ? 1 : 0)
-          << toUtf8(control->design().name);
-    }
-    hands->clickCorner(*shown);
-    EXPECT_EQ(happened(), Events{"window"});
-  }
-}
-
-TEST_P(ToolkitContract, AnotherControlLeavesTheSelectedTextAlone) {
-  hands->replaceText(search, u"skruv");
-  hands->click(search);
-  search.setSelStart(1);
-  search.setSelLength(3);
-  hands->click(option(u"optGlossary", 0));
-  EXPECT_EQ(search.SelStart(), 1);
-  EXPECT_EQ(search.SelLength(), 3);
-}
-
-TEST_P(ToolkitContract, PlacesAreKeptToTheFractionOfATwip) {
-  list.setWidth(3850.25F);
-  list.setTop(1680.5F);
-  EXPECT_EQ(list.place(), (Place{240, 1680.5F, 3850.25F, 3660}));
-  window->setWidth(11000.5F);
-  EXPECT_EQ(happened(), Events{"resize"}) << "raised before the assignment is over";
-  window->setLeft(100.25F);
-  window->setWidth(11000.5F);
-  EXPECT_EQ(happened(), Events{}) << "the size has not changed";
-  hands->place(*window, {150, 300, 30, 3000});
-  EXPECT_EQ(window->outerPlace(), (Place{150, 300, 30, 3000})) << "however small";
-  EXPECT_EQ(happened(), Events{"resize"});
-}
-
-TEST_P(ToolkitContract, TheWindowKnowsItsState) {
-  hands->place(*window, {300, 300, 12000, 7500});
-  happened();
-  hands->maximise(*window);
-  EXPECT_EQ(window->State(), WindowState::Maximised);
-  EXPECT_FALSE(happened().empty());
-  EXPECT_GT(window->Width(), 12000);
-  hands->minimise(*window);
-  EXPECT_EQ(window->State(), WindowState::Minimised);
-  hands->restore(*window);
-  EXPECT_EQ(window->State(), WindowState::Maximised) << "an icon goes back to what it was";
-  hands->restore(*window);
-  EXPECT_EQ(window->State(), WindowState::Normal);
-  EXPECT_EQ(window->outerPlace(), (Place{300, 300, 12000, 7500}));
-  hands->place(*window, {100, 200, 9000, 7000});  // no whole pixels
-  hands->maximise(*window);
-  hands->restore(*window);
-  EXPECT_EQ(window->outerPlace(), (Place{100, 200, 9000, 7000}));
-}
-
-TEST_P(ToolkitContract, ClosingAsksNobodyAndAModalBoxHoldsItsCaller) {
-  Toolkit& toolkit = hands->toolkit();
-  const std::unique_ptr<Window> box =
-      toolkit.createWindow({.name = u"box",
-                            .clientWidth = 3000,
-                            .clientHeight = 1500,
-                            .hasTitleBar = false,
-                            .controls = {{.kind = ControlKind::CommandButton,
-                                          .name = u"cmdOK",
-                                          .caption = u"OK",
-                                          .place = {150, 150, 1500, 375}}}});
-  EXPECT_EQ(toolkit.Forms(), (std::vector<Window*>{window.get(), box.get()}));
-  box->commandButton(u"cmdOK").Click = [&] { box->Unload(); };
-  hands->seesModalBox = [this](Window& seen) { log("box " + toUtf8(seen.Name())); };
-  box->ShowModal();
-  EXPECT_EQ(happened(), Events{"box box"});
-  EXPECT_EQ(toolkit.Forms(), std::vector<Window*>{window.get()});
-
-  window->QueryUnload = [this] { log("query " + std::to_string(hands->toolkit().Forms().size())); };
-  hands->close(*window);
-  EXPECT_EQ(happened(), Events{"query 1"}) << "still open while it is asked";
-  EXPECT_TRUE(toolkit.Forms().empty());
-}
-
-TEST_P(ToolkitContract, MessagesAndTheClipboardCarryTheTextAsItIs) {
-  hands->seesMessage = [this](TextView prompt, TextView title) {
-    log(toUtf8(title) + ": " + toUtf8(prompt));
-  };
-  hands->seesClipboard = [this](TextView text) { log(toUtf8(text)); };
-  hands->toolkit().MsgBox(u"Två rader: \r\n<b>& inget annat</b>");
-  EXPECT_TRUE(hands->toolkit().setClipboardText(u"DUBBLETTER\r\n\r\n"));
-  EXPECT_EQ(happened(),
-            (Events{"Termvik: Två rader: \r\n<b>& inget annat</b>", "DUBBLETTER\r\n\r\n"}));
-}
+}  // namespace
 
 INSTANTIATE_TEST_SUITE_P(EveryToolkit, ToolkitContract, testing::ValuesIn(toolkitNames()),
                          [](const auto& toolkit) { return toolkit.param; });
 
-}  // namespace
 }  // namespace termvik
