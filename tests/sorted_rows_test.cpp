@@ -85,4 +85,27 @@ TEST_P(SortedRowsLike, APlainVector) {
   EXPECT_EQ(rowsText(rows), "again/7 ");
 }
 
+// What a part of a text begins with is that part's alone: the next character can make another
+// letter of it.
+TEST(SortedRows, FitATextWhoseLettersHangOnTheirNeighbours) {
+  struct Case {
+    const char* locale;
+    std::vector<Text> rows;
+    Text text;
+  };
+  const std::vector<Case> cases = {
+      {"da_DK", {u"b", u"ª"}, u"AA"},                // an å, but its part `A` is an a, as ª is
+      {"sv_SE", {u"b", u"\u00ADe"}, u"ｅ\u00AD"},    // an e behind what is no letter
+      {"sv_SE", {u"bild", u"å", u"ö"}, u"a\u030A"},  // an å that is past all with an a
+  };
+  for (const auto& [locale, texts, text] : cases) {
+    const Collation collation(locale);
+    SortedRows rows(collation);
+    for (const Text& row : texts) rows.add(row, 0);
+    const SortedRows::Fit best = plainFit(collation, rows, text);
+    const SortedRows::Fit fit = rows.bestFit(text);
+    EXPECT_EQ(std::pair(fit.row, fit.length), std::pair(best.row, best.length)) << toUtf8(text);
+  }
+}
+
 }  // namespace termvik::test

@@ -16,7 +16,7 @@ constexpr std::size_t kLongestContext =
 constexpr std::size_t kMostTried = 64;  // longer parts after the last one that fitted
 
 std::uint32_t firstPrimary(const Collation& collation, TextView text) {
-  const auto elements = collation.collator().elements(text.substr(0, kLongestContext));
+  const auto elements = collation.collator().elements(text);
   return elements.empty() ? 0 : elements.front().primary;
 }
 
@@ -31,13 +31,24 @@ WantedText::WantedText(const Collation& collation, TextView text)
     letters_.insert(letters_.end(), next.letters.begin(), next.letters.begin() + next.count);
     ends_.push_back(letters_.size());
   }
-  if (known() == 0 && !text.empty()) firstPrimary_ = firstPrimary(collation, text);
+  if (known() < std::min<std::size_t>(text.size(), 2)) findFirstPrimaries();
+}
+
+// Not one of the whole text alone: a Danish `AA` is an å, but the part `A` of it is an a.
+void WantedText::findFirstPrimaries() {
+  for (std::size_t length = 1; length <= std::min(text_.size(), kLongestContext); ++length) {
+    const std::uint32_t primary = firstPrimary(*collation_, text_.substr(0, length));
+    if (length == 1 && primary == 0) return;  // the first letter is a later character's
+    const auto found = std::find(firstPrimaries_.begin(), firstPrimaries_.end(), primary);
+    if (found == firstPrimaries_.end()) firstPrimaries_.push_back(primary);
+  }
 }
 
 // What is not known can change the letter ahead of it, as a combining ring makes `a` an `å`.
 std::vector<std::uint8_t> WantedText::ranksOf(std::size_t length) const {
-  const bool sure = length <= known();
-  const std::size_t count = sure ? ends_[length] : ends_[std::max<std::size_t>(known(), 1) - 1];
+  const std::size_t sure =
+      known() == text_.size() ? known() : std::max<std::size_t>(known(), 1) - 1;
+  const std::size_t count = ends_[std::min(length, sure)];
   std::vector<std::uint8_t> ranks(count);
   std::transform(letters_.begin(), letters_.begin() + static_cast<std::ptrdiff_t>(count),
                  ranks.begin(), [&](Letter letter) { return collation_->letters().rank(letter); });
@@ -48,7 +59,7 @@ WantedText::Fit WantedText::fitOf(TextView row, bool keyed) const {
   if (!keyed) return fitByCollator(row, {}, 1);
   const Fit fit = fitByLetters(row);
   if (known() == text_.size()) return fit;
-  if (known() == 0 && beginsApart(row)) return {.length = 0, .seen = 1};
+  if (beginsApart(row)) return {.length = 0, .seen = 1};
   return fitByCollator(row, fit, known() + 1);
 }
 
@@ -95,9 +106,13 @@ bool WantedText::partsPair(std::size_t length) const {
          isHalf(length, 0xDC00);
 }
 
-// For a text whose first character is not known, as Greek: the first letters differ.
+// For a text whose first letter is not sure, as Greek: the row's first letter is that of none of
+// the text's parts. A row can also begin with what is no letter, a soft hyphen.
 bool WantedText::beginsApart(TextView row) const {
-  return firstPrimary_ != 0 && firstPrimary(*collation_, row.substr(0, 1)) != firstPrimary_;
+  if (firstPrimaries_.empty()) return false;
+  const std::uint32_t primary = firstPrimary(*collation_, row.substr(0, 1));
+  return primary != 0 && std::find(firstPrimaries_.begin(), firstPrimaries_.end(), primary) ==
+                             firstPrimaries_.end();
 }
 
 }  // namespace termvik

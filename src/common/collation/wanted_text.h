@@ -34,6 +34,7 @@ class WantedText {
  private:
   std::size_t known() const { return ends_.size() - 1; }  // leading characters with letters
   bool partsPair(std::size_t length) const;
+  void findFirstPrimaries();
   bool beginsApart(TextView row) const;
   Fit fitByLetters(TextView row) const;
   Fit fitByCollator(TextView row, Fit fit, std::size_t first) const;
@@ -42,7 +43,7 @@ class WantedText {
   TextView text_;
   std::vector<Letter> letters_;       // of the characters before the first that is not known
   std::vector<std::size_t> ends_{0};  // by a part's length: how many of the letters it has
-  std::uint32_t firstPrimary_ = 0;    // of a text that begins with an unknown character
+  std::vector<std::uint32_t> firstPrimaries_;  // of its parts, where the first letter is not sure
 };
 
 }  // namespace termvik
