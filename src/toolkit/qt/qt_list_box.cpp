@@ -121,7 +121,7 @@ QtListBox::QtListBox(QWidget* parent, const ControlDesign& design, const Collati
   new QtFrameCover(view);  // the view owns it
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentChanged, &view,
                    [this](const QModelIndex& current) {
-                     if (!selecting_ && current.isValid()) userSelects(current.row());
+                     if (current.isValid()) userSelects(current.row());
                    });
 }
 
@@ -137,20 +137,17 @@ void QtListBox::showRows() {
 void QtListBox::finishChange() {
   if (!model_->isChanging()) return;
   model_->endChange();
-  if (ListIndex() >= 0) selectQuietly();
+  if (ListIndex() >= 0) selectRow();
 }
 
 void QtListBox::showRowText(std::int32_t row) { model_->showRowText(row); }
 
-void QtListBox::selectQuietly() {
-  selecting_ = true;
-  widget()->setCurrentIndex(model_->index(ListIndex()));
-  selecting_ = false;
-}
+// To the list box that row is selected already, so that the view's signal changes nothing.
+void QtListBox::selectRow() { widget()->setCurrentIndex(model_->index(ListIndex())); }
 
 void QtListBox::showSelection() {
   model_->endChange();
-  selectQuietly();
+  selectRow();
   widget()->scrollTo(model_->index(ListIndex()));
 }
 

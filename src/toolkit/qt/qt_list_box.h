@@ -42,10 +42,9 @@ class QtListBox : public QtControl<ListBox, QListView> {
   class View;
 
   void finishChange();
-  void selectQuietly();
+  void selectRow();
 
   RowsModel* model_;
-  bool selecting_ = false;  // the program moves the selection, not the user
 };
 
 }  // namespace termvik
