@@ -10,6 +10,7 @@
 
 #include "app/program.h"
 #include "out_of_memory.h"
+#include "qt_end_requests.h"
 #include "qt_start.h"
 #include "toolkit/qt/qt_toolkit.h"
 
@@ -45,6 +46,7 @@ class Application : public QApplication {
 
 int main(int argc, char** argv) {
   std::set_terminate(end);
+  termvik::QtEndRequests endRequests;
   auto starting = std::make_unique<termvik::QtStart>();
   Application application(argc, argv);
   starting.reset();
@@ -56,5 +58,6 @@ int main(int argc, char** argv) {
   termvik::Program program(toolkit, collation, app);
   application.outOfMemory = [&] { program.form().runOutOfMemory(); };
   program.start();
+  endRequests.follow();
   return QApplication::exec();
 }

@@ -4,6 +4,7 @@ import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import time
@@ -315,6 +316,17 @@ class RealWindow(unittest.TestCase):
             wait_for(lambda: self.outer()[2:], expected)
             measures = b"WINWIDTH %d\r\nWINHEIGHT %d\r\n" % tuple(15 * n for n in expected)
             self.assertIn(measures, self.close())
+            self.start()
+
+    def test_asked_to_end_it_keeps_what_it_remembers(self):
+        self.choose_both()
+        for request in signal.SIGTERM, signal.SIGHUP, signal.SIGINT:
+            (FOLDER / "Termvik.par").unlink(missing_ok=True)
+            self.click("Skapa lista över dubbletter")
+            wait_for(lambda: self.has_focus("OK"), True)
+            self.program.send_signal(request)  # while a box is open
+            self.assertEqual(self.program.wait(15), 0)
+            self.assertIn(b"GLOSSARYINDEX 2", (FOLDER / "Termvik.par").read_bytes())
             self.start()
 
     def is_maximised(self):
