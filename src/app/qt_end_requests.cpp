@@ -3,10 +3,10 @@
 
 #include <csignal>
 #include <initializer_list>
-
-#include <QCoreApplication>
 #include <sys/signalfd.h>
 #include <unistd.h>
+
+#include <QCoreApplication>
 
 namespace termvik {
 

@@ -3,8 +3,9 @@
 // terminal ends or another program asks it to.
 #pragma once
 
-#include <QSocketNotifier>
 #include <memory>
+
+#include <QSocketNotifier>
 
 namespace termvik {
 
