@@ -187,6 +187,13 @@ TEST(QtDark, OptionsThatAreOffCanBeSeenAndTheAboutBoxHasNoPatches) {
   }
   const std::unique_ptr<Window> about = hands->toolkit().createWindow(frmAboutDesign());
   about->Show();
+  for (const Window* shown : {window.get(), about.get()}) {
+    for (const auto& control : shown->controls()) {
+      const QPalette seen = qtWidget(*control)->palette();
+      EXPECT_GT(contrast(seen.color(QPalette::WindowText), seen.color(QPalette::Window)), 3.0)
+          << toUtf8(control->design().name);
+    }
+  }
   const QImage authors = qtWidget(about->control(u"Text2"))->grab().toImage();
   EXPECT_EQ(authors.pixelColor(1, 1).name(), dark.color(QPalette::Window).name());
   QApplication::setPalette(QPalette());
