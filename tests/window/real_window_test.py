@@ -7,6 +7,7 @@ import shutil
 import signal
 import subprocess
 import sys
+import threading
 import time
 import unittest
 import unittest.mock
@@ -17,6 +18,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PROGRAM, FOLDER = map(pathlib.Path, sys.argv[1:3])
+WINDOW_MANAGER = int(os.environ["WINDOW_MANAGER"])  # its process
 GLOSSARIES = {"graphword.txt": "Graphical, small\n---\nS: färg\nE: ink\n---\nS: lim\nE: glue\n"
                                "C: Sticks paper\nand board.\n---\nS: ark\nE: sheet\n---\n",
               "toolsword.txt": "Tools\n---\nS: lim\nE: size\nD: Leim\n---\nS: fil\nE: file\n"}
@@ -305,6 +307,14 @@ class RealWindow(unittest.TestCase):
             while time.monotonic() < rest:  # nor does it stir once it is there
                 self.assertEqual(self.outer(), outer)
             self.assertEqual(self.rows(), ["fil", "lim"])
+
+    def test_the_place_is_kept_where_the_window_manager_takes_its_time(self):
+        outer = self.bring_to(211, 143, 833, 517)
+        self.close()
+        os.kill(WINDOW_MANAGER, signal.SIGSTOP)
+        threading.Timer(1, os.kill, (WINDOW_MANAGER, signal.SIGCONT)).start()
+        self.start()
+        wait_for(self.outer, outer)
 
     def test_a_stored_size_that_does_not_fit_leaves_the_other_as_it_is(self):
         width, height = self.outer()[2:]

@@ -6,6 +6,6 @@ here=$(dirname "${BASH_SOURCE[0]}")
 source "$here/../../scripts/setup.sh"
 
 open_virtual_display
-export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LC_ALL=C.UTF-8
+export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 LC_ALL=C.UTF-8 WINDOW_MANAGER=${background[-1]}
 # Debian's own Python is the one that has the bindings to accessibility.
 dbus-run-session -- /usr/bin/python3 "$here/real_window_test.py" "$@"

@@ -13,9 +13,11 @@ namespace termvik {
 
 namespace {
 
-// How long a window manager may take to say how wide its frame is.
+// A window manager on a busy machine may take ten seconds to say how wide its frame is, and may
+// move the window about for half a second after that.
 constexpr int kFrameLookMilliseconds = 25;
-constexpr int kFrameLooks = 20;
+constexpr int kFrameLooks = 400;
+constexpr int kLooksWithFrame = 20;
 
 }  // namespace
 
@@ -73,12 +75,14 @@ void QtWindow::learnFrame() {
 
 void QtWindow::watchFrame() {
   auto* timer = new QTimer(widget_.get());
-  QObject::connect(timer, &QTimer::timeout, widget_.get(), [this, timer, looks = 0]() mutable {
-    readPlace();
-    if (++looks < kFrameLooks) return;
-    frameKnown_ = true;  // there is none
-    timer->deleteLater();
-  });
+  QObject::connect(timer, &QTimer::timeout, widget_.get(),
+                   [this, timer, looks = kFrameLooks]() mutable {
+                     readPlace();
+                     if (frameKnown_) looks = std::min(looks, kLooksWithFrame);
+                     if (--looks > 0) return;
+                     frameKnown_ = true;  // there is none
+                     timer->deleteLater();
+                   });
   timer->start(kFrameLookMilliseconds);
 }
 
