@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What keys and the mouse do in the search box, in the list and around them.
+#include <utility>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QListView>
@@ -115,6 +117,19 @@ TEST_F(QtBoxes, OnlyTheLeftButtonPressedAndReleasedAtOnePlaceClicks) {
   QTest::mouseClick(&widget(), Qt::LeftButton, {}, bare);
   QTest::mouseClick(&edit, Qt::LeftButton, {}, inside);
   EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(QtBoxes, EachKeyOfItsButtonClosesTheAboutBox) {
+  const std::unique_ptr<Window> about = hands->toolkit().createWindow(frmAboutDesign());
+  about->commandButton(u"cmdOK").Click = [this] { ++clicks; };
+  about->Show();
+  QMainWindow& box = dynamic_cast<QtWindow&>(*about).widget();
+  box.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space}) {
+    QTest::keyClick(QApplication::focusWidget(), key);
+    EXPECT_EQ(std::exchange(clicks, 0), 1) << key;
+  }
 }
 
 TEST_F(QtBoxes, AWindowHearsThatAnotherIsInFront) {

@@ -38,6 +38,21 @@ TEST_F(QtMainWindow, EveryControlHasANameToBeSaidAndRoomForItsCaption) {
   }
 }
 
+TEST_F(QtMainWindow, LogoAndAddressEndAtTheRight) {
+  for (const TextView name : {u"picLogo", u"lblInternet"}) {
+    const QImage seen = qtWidget(window->control(name))->grab().toImage();
+    const QColor background = seen.pixelColor(0, seen.height() - 1);
+    const auto isBare = [&](int x) {
+      for (int y = 0; y < seen.height(); ++y) {
+        if (seen.pixelColor(x, y) != background) return false;
+      }
+      return true;
+    };
+    EXPECT_TRUE(isBare(3)) << toUtf8(name);
+    EXPECT_FALSE(isBare(seen.width() - 2) && isBare(seen.width() - 5)) << toUtf8(name);
+  }
+}
+
 TEST_F(QtMainWindow, TheMenuBarShowsAllNineItemsAndTheListItsRows) {
   const QMenuBar& bar = *widget().menuBar();
   EXPECT_FALSE(bar.isNativeMenuBar());
