@@ -43,6 +43,7 @@ void Session::changeText(TextView text) {
 }
 
 void Session::type(char16_t character) {
+  if (character == keys::kEnter) return pressKey(keys::kEnter);  // which looks up once more
   EditBox& box = window().editBox(u"txtSearch");
   hands_->goToEnd(box);
   hands_->type(box, character);
