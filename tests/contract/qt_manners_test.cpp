@@ -74,6 +74,16 @@ TEST_F(QtManners, TheKeyboardComesBackFromTheMenuBar) {
   EXPECT_EQ(search.text().toStdString(), "skr");
 }
 
+TEST_F(QtManners, UndoGoesBackAThousandEditsAtMost) {
+  search.setFocus();
+  QTest::keyClicks(&search, QString(1001, 'a'));
+  search.setSelection(10, -5);
+  QTest::keyClicks(&search, "b");
+  EXPECT_EQ(search.text(), QString(5, 'a') + "b" + QString(991, 'a'));
+  while (search.isUndoAvailable()) search.undo();
+  EXPECT_EQ(search.text().size(), 1001);
+}
+
 TEST_F(QtManners, ItemsThatDoNotFitAreSeenWhenTheArrowsReachThem) {
   hands->place(*window, {150, 150, 6000, 4500});
   press(Qt::Key_F10);

@@ -11,6 +11,8 @@ namespace termvik {
 
 namespace {
 
+constexpr int kMostUndone = 1000;  // then none is; it begins anew
+
 std::int16_t keyCodeOf(int key) {
   switch (key) {
     case Qt::Key_Up:
@@ -36,9 +38,11 @@ class QtEditBox::Edit : public QLineEdit {
   using QLineEdit::QLineEdit;
 
   QtEditBox* box = nullptr;
+  int edits = 0;  // that can be undone
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
+    if (edits > kMostUndone) forgetEdits();
     if (!box->userPressesKey(keyCodeOf(event->key()))) return event->accept();
     const Text characters = fromQt(event->text());
     for (const char16_t character : characters) {
@@ -50,12 +54,10 @@ class QtEditBox::Edit : public QLineEdit {
   // Qt would forget the selected part when the focus goes to another control. It stays and, as in
   // the other toolkits, is not shown until the focus is back.
   void focusOutEvent(QFocusEvent* event) override {
-    const int start = selectionStart();
-    const int length = selectionLength();
-    const bool backwards = cursorPosition() == start;
+    const auto [start, length] = selected();
     QLineEdit::focusOutEvent(event);
     if (length == 0 || hasSelectedText()) return;
-    setSelection(backwards ? start + length : start, backwards ? -length : length);
+    setSelection(start, length);
     QPalette hidden = shown_ = palette();
     hidden.setBrush(QPalette::Highlight, hidden.base());
     hidden.setBrush(QPalette::HighlightedText, hidden.text());
@@ -74,6 +76,24 @@ class QtEditBox::Edit : public QLineEdit {
   }
 
  private:
+  // As setSelection takes it; backwards when the cursor is at its beginning.
+  std::pair<int, int> selected() const {
+    const int length = selectionLength();
+    const bool backwards = cursorPosition() == selectionStart();
+    return backwards ? std::pair(selectionEnd(), -length) : std::pair(selectionStart(), length);
+  }
+
+  // Qt keeps for Undo each character that came or went, as long as the box lives. It forgets them
+  // when it is given a text.
+  void forgetEdits() {
+    const int cursor = cursorPosition();
+    const auto [start, length] = selected();
+    setText(text());
+    setCursorPosition(cursor);
+    if (length != 0) setSelection(start, length);
+    edits = 0;
+  }
+
   QPalette shown_;
   bool hides_ = false;  // the selected part looks like the rest
 };
@@ -83,7 +103,10 @@ QtEditBox::QtEditBox(QWidget* parent, const ControlDesign& design)
   static_cast<Edit*>(widget())->box = this;
   widget()->setMaxLength(std::numeric_limits<int>::max());  // Qt's own limit is 32,767
   widget()->setTextMargins(0, 0, 0, 0);
-  QObject::connect(widget(), &QLineEdit::textChanged, widget(), [this] { userEdits(); });
+  QObject::connect(widget(), &QLineEdit::textChanged, widget(), [this] {
+    ++static_cast<Edit*>(widget())->edits;
+    userEdits();
+  });
 }
 
 std::int32_t QtEditBox::SelStart() const {
