@@ -160,6 +160,7 @@ TEST_F(QtManners, AMessageHasTheProgramsFontAndCanBeCopied) {
   hands->seesMessage = [this](TextView, TextView) {
     auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
     EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
     EXPECT_EQ(box.font().family(), option(u"optGlossary", 0)->font().family());
     QTest::keyClick(box.windowHandle(), Qt::Key_C, Qt::ControlModifier);
   };

@@ -2,9 +2,11 @@
 // What a person finds in the real main window beyond what the program asks of a toolkit.
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 #include "qt_controls.h"
@@ -76,6 +78,19 @@ TEST_F(QtMainWindow, TheArticleCanBeSelectedWholeAndNotChanged) {
   QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
   QTest::keyClicks(&edit, "x");
   EXPECT_EQ(edit.textCursor().selectedText().toStdU16String(), u"S: kil\u2029E: wedge");
+}
+
+TEST_F(QtMainWindow, ALongArticleScrollsAndIsCopiedAsItIs) {
+  TextBox& article = window->textBox(u"txtArticle");
+  auto& edit = *qobject_cast<QPlainTextEdit*>(qtWidget(article));
+  EXPECT_FALSE(edit.verticalScrollBar()->isVisible());
+  const Text longLine(50'000, u'x');
+  article.setText(longLine + u"\r\n" + longLine);
+  hands->settle();
+  EXPECT_TRUE(edit.verticalScrollBar()->isVisible());
+  edit.selectAll();
+  edit.copy();
+  EXPECT_EQ(fromQt(QApplication::clipboard()->text()), longLine + u"\n" + longLine);
 }
 
 }  // namespace

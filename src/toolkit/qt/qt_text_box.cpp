@@ -68,7 +68,6 @@ QtTextBox::QtTextBox(QWidget* parent, const ControlDesign& design)
   QPlainTextEdit& edit = *widget();
   edit.setReadOnly(true);
   edit.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  edit.setTabChangesFocus(true);
   edit.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   edit.setVerticalScrollBarPolicy(design.scrolls ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
   if (design.flat) {
