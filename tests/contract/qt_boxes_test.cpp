@@ -126,9 +126,13 @@ TEST_F(QtBoxes, EachKeyOfItsButtonClosesTheAboutBox) {
   QMainWindow& box = dynamic_cast<QtWindow&>(*about).widget();
   box.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape, Qt::Key_Space}) {
-    QTest::keyClick(QApplication::focusWidget(), key);
-    EXPECT_EQ(std::exchange(clicks, 0), 1) << key;
+  for (const TextView focused : {u"cmdOK", u"Text2"}) {
+    QWidget& widget = *qtWidget(about->control(focused));
+    widget.setFocus();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+      QTest::keyClick(&widget, key);
+      EXPECT_EQ(std::exchange(clicks, 0), 1) << toUtf8(focused) << ", " << key;
+    }
   }
 }
 

@@ -102,9 +102,12 @@ class RealWindow(unittest.TestCase):
 
     def close(self):
         """Closes the window as a person does; what it leaves in its parameter file."""
-        wait_for(active_window, self.window)
-        run("xdotool", "key", "alt+F4")
-        self.assertEqual(self.program.wait(15), 0)
+        def press():
+            if active_window() == self.window:
+                run("xdotool", "key", "alt+F4")
+            return self.program.wait(3)
+
+        wait_for(press, 0)  # a busy window manager may miss the key
         return (FOLDER / "Termvik.par").read_bytes()
 
     def tearDown(self):
