@@ -150,10 +150,11 @@ bool check(const std::vector<std::string>& files, const CheckOptions& options,
   std::deque<CheckedFile> checked;
   for (const std::string& name : files) {
     try {
-      std::string bytes = readBytes(name, streams);
+      const FileBytes fileBytes = readBytes(name, streams);
+      const std::string_view bytes = viewOf(fileBytes);
       Findings ofBytes;
       const bool isUtf16 = inspectBytes(bytes, ofBytes);
-      checked.emplace_back(name, GlossaryLines::ofBytes(std::move(bytes), collation));
+      checked.emplace_back(name, GlossaryLines::ofBytes(bytes, collation));
       checked.back().findings = std::move(ofBytes);
       inspectLines(isUtf16, options, collation, checked.back(), allWords);
     } catch (const Failure& failure) {

@@ -12,7 +12,6 @@ namespace termvik::tool {
 namespace {
 
 constexpr std::size_t kUnits = 0x10000;
-constexpr unsigned kFirstOther = 0x80;  // after ASCII, which is in every code page
 
 bool isInCodePage(char16_t character) {
   return character == u'?' || windows1252::encode(character) != '?';
@@ -37,13 +36,6 @@ TextView firstCharacter(TextView text) {
 }  // namespace
 
 bool isPlainInCodePage(TextView text) {
-  unsigned all = 0;
-  unsigned ends = 0;
-  for (const char16_t unit : text) {
-    all |= unit;
-    ends |= static_cast<unsigned>(unit == u'\r') | static_cast<unsigned>(unit == u'\n');
-  }
-  if (all < kFirstOther) return ends == 0;
   static const std::bitset<kUnits> plain = makePlain();
   return std::all_of(text.begin(), text.end(), [](char16_t unit) { return plain[unit]; });
 }

@@ -52,7 +52,7 @@ void write(WordList& list, Title title, const Options& options, const Collation&
     if (!messages.anyError()) writeGlossary(list, title.text, output);
     return;
   }
-  Utf8Output out(output);
+  TextOutput out(output);
   if (format == Format::OmegaT) {
     writeOmegaT(list, options.read, out, messages);
     return;

@@ -24,8 +24,8 @@ std::string reason() { return errno == 0 ? "" : std::string(": ") + std::strerro
 
 // What `readPiece(room)` gives until it gives no more bytes; `size` of them are expected.
 template <class ReadPiece>
-std::string readAll(const std::string& name, std::size_t size, ReadPiece readPiece) {
-  std::string bytes(std::min(size, kMostBytes) + kPiece, '\0');
+FileBytes readAll(const std::string& name, std::size_t size, ReadPiece readPiece) {
+  FileBytes bytes(std::min(size, kMostBytes) + kPiece);
   for (std::size_t used = 0;;) {
     if (bytes.size() - used < kPiece) bytes.resize(used + std::max(used, kPiece));
     const std::size_t count = readPiece(std::span(bytes).subspan(used));
@@ -44,7 +44,7 @@ fs::path scratchBeside(const fs::path& target) {
 
 }  // namespace
 
-std::string readBytes(const std::string& name, Streams& streams) {
+FileBytes readBytes(const std::string& name, Streams& streams) {
   if (name == kStandardStream) {
     return readAll(name, 0, [&](std::span<char> room) {
       streams.in.read(room.data(), static_cast<std::streamsize>(room.size()));

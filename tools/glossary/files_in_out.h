@@ -10,6 +10,7 @@
 
 #include "common/system/files.h"
 #include "streams.h"
+#include "text_in.h"
 
 namespace termvik::tool {
 
@@ -17,7 +18,7 @@ namespace termvik::tool {
 inline constexpr std::string_view kStandardStream = "-";
 
 // All bytes of a file, or of standard input. Throws Failure, with the reason.
-std::string readBytes(const std::string& name, Streams& streams);
+FileBytes readBytes(const std::string& name, Streams& streams);
 
 // Where the result goes. Until commit() nothing of it is there; then all of it.
 class Output {

@@ -16,7 +16,6 @@ namespace termvik::tool {
 struct Kind {
   std::string_view code;
   Severity severity = Severity::Error;
-  bool loses = false;  // text of the file that the program never shows
 };
 
 namespace kinds {
@@ -24,10 +23,10 @@ namespace kinds {
 inline constexpr Kind kEncoding{"encoding"};
 inline constexpr Kind kLineEnds{"line-ends"};
 inline constexpr Kind kNoEntries{"no-entries"};
-inline constexpr Kind kLostLetter{"lost-letter", Severity::Error, true};
-inline constexpr Kind kLostLine{"lost-line", Severity::Error, true};
-inline constexpr Kind kLostBlock{"lost-block", Severity::Error, true};
-inline constexpr Kind kLostComment{"lost-comment", Severity::Error, true};
+inline constexpr Kind kLostLetter{"lost-letter"};
+inline constexpr Kind kLostLine{"lost-line"};
+inline constexpr Kind kLostBlock{"lost-block"};
+inline constexpr Kind kLostComment{"lost-comment"};
 inline constexpr Kind kWordInComment{"word-in-comment", Severity::Warning};
 inline constexpr Kind kWordType{"word-type", Severity::Warning};
 inline constexpr Kind kEmptyWord{"empty-word", Severity::Warning};

@@ -38,6 +38,6 @@ struct Title {
 void mendForGlossary(WordList& list, Title& title, bool lossy, const Collation& collation,
                      Messages& messages);
 
-void writeGlossary(const WordList& list, TextView title, Output& out);
+void writeGlossary(const WordList& list, TextView title, Output& output);
 
 }  // namespace termvik::tool

@@ -3,37 +3,52 @@
 #include <utility>
 #include <vector>
 
-#include "glossary/entry_lines.h"
 #include "glossary_file.h"
 #include "glossary_lines.h"
-#include "inspect.h"
+#include "losses.h"
 #include "word_types.h"
 
 namespace termvik::tool {
 
 namespace {
 
-// Takes the words and the comment of an entry as the program does.
+// Takes the words and the comment of each entry as the program does.
 class EntryReader {
  public:
-  EntryReader(std::uint16_t input, const Collation& collation, WordList& list)
-      : input_(input), collation_(collation), list_(list), comment_(collation) {}
+  EntryReader(const GlossaryLines& lines, std::uint16_t input, const Collation& collation,
+              WordList& list)
+      : lines_(lines), input_(input), collation_(collation), list_(list) {}
 
+  void read(const LineRange& block) {
+    entry_.clear();
+    comment_ = CommentLines(collation_);
+    losses_.emplace(lines_, collation_, lost_);
+    visitEntry(lines_.table(), block, *this);
+    losses_->finish();
+    if (entry_.words.empty()) return;
+    entry_.place = entry_.words.front().place;
+    if (!comment_.text().empty()) addComment();
+    list_.add(entry_);
+  }
+
+  // What visitEntry() tells.
   void word(std::int32_t line, TextView text, char16_t wordType) {
+    losses_->word(line, text, wordType);
     if (text.empty()) return;
     entry_.words.push_back({text, placeOf(line), languageOr(collation_, wordType)});
   }
   void comment(std::int32_t line, TextView text, bool isHead) {
+    losses_->comment(line, text, isHead);
     comment_.add(text, isHead);
     endOfComment_ = line;
   }
-  void passedOver(std::int32_t) {}
+  void passedOver(std::int32_t line) { losses_->passedOver(line); }
 
-  // The entry, when all of its lines have been told.
-  Entry& finish() {
-    if (!comment_.text().empty()) addComment();
-    if (!entry_.words.empty()) entry_.place = entry_.words.front().place;
-    return entry_;
+  void tellWhatIsLost(Messages& messages) const {
+    for (const Finding& finding : lost_) {
+      messages.tell(Severity::Warning, {finding.line, input_},
+                    finding.text + " [" + std::string(finding.kind->code) + "]");
+    }
   }
 
  private:
@@ -46,24 +61,16 @@ class EntryReader {
     entry_.comment.push_back({text, placeOf(first)});
   }
 
+  const GlossaryLines& lines_;
   std::uint16_t input_;
   const Collation& collation_;
   WordList& list_;
-  CommentLines comment_;
-  std::int32_t endOfComment_ = 0;
   Entry entry_;
+  CommentLines comment_{collation_};
+  std::int32_t endOfComment_ = 0;
+  std::optional<Losses> losses_;
+  Findings lost_;
 };
-
-void tellWhatIsLost(const GlossaryLines& lines, std::uint16_t input, const Collation& collation,
-                    Messages& messages) {
-  Findings findings;
-  inspectEntries(lines, collation, findings, [](const InspectedWords&) {});
-  for (const Finding& finding : findings) {
-    if (!finding.kind->loses) continue;
-    messages.tell(Severity::Warning, {finding.line, input},
-                  finding.text + " [" + std::string(finding.kind->code) + "]");
-  }
-}
 
 }  // namespace
 
@@ -71,15 +78,13 @@ std::optional<Text> readGlossary(GlossaryLines glossaryLines, std::uint16_t inpu
                                  const Collation& collation, WordList& list, Messages& messages) {
   const auto lines = std::make_shared<const GlossaryLines>(std::move(glossaryLines));
   list.keepOwner(lines);
-  tellWhatIsLost(*lines, input, collation, messages);
   const LineTable& table = lines->table();
-  for (LineRange range{1, 1}; findEntry(table, range); range.first = range.last + 1) {
-    EntryReader reader(input, collation, list);
-    visitEntry(table, range, reader);
-    Entry& entry = reader.finish();
-    if (!entry.words.empty()) list.entries.push_back(std::move(entry));
-    messages.progress("reading", static_cast<std::size_t>(range.last), table.size());
+  EntryReader reader(*lines, input, collation, list);
+  for (LineRange block{1, 1}; findBlock(table, block); block.first = block.last + 1) {
+    reader.read(block);
+    messages.progress("reading", static_cast<std::size_t>(block.last), table.size());
   }
+  reader.tellWhatIsLost(messages);
   if (table.size() == 0 || !isFirstLine(collation, table[1])) return std::nullopt;
   return Text(table[1]);
 }

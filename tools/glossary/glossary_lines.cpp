@@ -11,11 +11,11 @@
 namespace termvik::tool {
 
 // The program takes an LF without a CR for a character of its line, an editor for a line end.
-GlossaryLines GlossaryLines::ofBytes(std::string bytes, const Collation& collation) {
+GlossaryLines GlossaryLines::ofBytes(std::string_view bytes, const Collation& collation) {
   GlossaryLines result(collation);
   result.table_.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\r')) + 1,
                         bytes.size());
-  LineReader reader(std::move(bytes));
+  LineReader reader{std::string(bytes)};
   std::uint32_t editorLine = 1;
   for (std::string_view line; reader.next(line);) {
     result.table_.append(line);
@@ -39,7 +39,8 @@ GlossaryLines GlossaryLines::ofWindows1252(std::string_view bytes, const Collati
                         bytes.size());
   Text decoded;
   for (std::string_view line; takeLine(bytes, line);) {
-    decodeWindows1252(line, decoded);
+    decoded.resize(line.size());
+    decodeWindows1252(line, decoded.data());
     result.table_.appendDecoded(decoded);
   }
   return result;

@@ -15,7 +15,7 @@ namespace termvik::tool {
 class GlossaryLines {
  public:
   // The lines as the program finds them in the bytes of a file.
-  static GlossaryLines ofBytes(std::string bytes, const Collation& collation);
+  static GlossaryLines ofBytes(std::string_view bytes, const Collation& collation);
 
   // The lines of a text, or of bytes in Windows-1252, ended by CR LF, LF or CR.
   static GlossaryLines ofText(TextView text, const Collation& collation);

@@ -6,6 +6,7 @@
 #include "glossary/line_table.h"
 #include "glossary_file.h"
 #include "mending.h"
+#include "text_out.h"
 
 namespace termvik::tool {
 
@@ -93,42 +94,41 @@ class Mender {
   Messages& messages_;
 };
 
-// Nearly all texts are ASCII, which the compiler narrows many characters at a time.
-void append(std::string& bytes, TextView text) {
-  const std::size_t size = bytes.size();
-  bytes.resize(size + text.size());
-  char* const out = &bytes[size];
-  unsigned all = 0;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    out[i] = static_cast<char>(text[i]);
-    all |= text[i];
+// All characters are in the code page, and nearly all have the code of their byte: the compiler
+// narrows a stretch of them at once.
+std::string encoded(TextView text) {
+  constexpr std::size_t kStretch = 64;
+  constexpr unsigned kLastByte = 0xFF;
+  std::string bytes(text.size(), '\0');
+  for (std::size_t begin = 0; begin < text.size(); begin += kStretch) {
+    const TextView stretch = text.substr(begin, kStretch);
+    char* const out = &bytes[begin];
+    unsigned all = 0;
+    for (std::size_t i = 0; i < stretch.size(); ++i) {
+      out[i] = static_cast<char>(stretch[i]);
+      all |= stretch[i];
+    }
+    if (all > kLastByte) std::transform(stretch.begin(), stretch.end(), out, windows1252::encode);
   }
-  if (all >= windows1252::kFirstSpecial) {
-    std::transform(text.begin(), text.end(), out, windows1252::encode);
-  }
+  return bytes;
 }
 
 // Blanks after the mark would be lost, those of a line of its own stay.
-void appendComment(std::string& bytes, TextView comment) {
-  append(bytes, comment.starts_with(u' ') ? u"C:\r\n" : u"C: ");
+void writeComment(TextView comment, TextOutput& out) {
+  out << (comment.starts_with(u' ') ? TextView(u"C:\r\n") : TextView(u"C: "));
   for (std::size_t end = comment.find(u'\n'); end != TextView::npos; end = comment.find(u'\n')) {
-    append(bytes, comment.substr(0, end));
-    append(bytes, kLineEnd);
+    out << comment.substr(0, end) << kLineEnd;
     comment.remove_prefix(end + 1);
   }
-  append(bytes, comment);
-  append(bytes, kLineEnd);
+  out << comment << kLineEnd;
 }
 
-void appendEntry(std::string& bytes, const Entry& entry) {
+void writeEntry(const Entry& entry, TextOutput& out) {
   for (const Word& word : entry.words) {
-    append(bytes, {&word.type, 1});
-    append(bytes, u": ");
-    append(bytes, word.text);
-    append(bytes, kLineEnd);
+    out << TextView(&word.type, 1) << u": " << word.text << kLineEnd;
   }
-  if (!entry.comment.empty()) appendComment(bytes, entry.comment.front().text);
-  append(bytes, u"---\r\n");
+  if (!entry.comment.empty()) writeComment(entry.comment.front().text, out);
+  out << u"---\r\n";
 }
 
 }  // namespace
@@ -160,18 +160,11 @@ void mendForGlossary(WordList& list, Title& title, bool lossy, const Collation& 
   dropWordless(list, messages);
 }
 
-void writeGlossary(const WordList& list, TextView title, Output& out) {
-  constexpr std::size_t kPiece = 1U << 16U;
-  std::string bytes;
-  append(bytes, title);
-  append(bytes, u"\r\n---\r\n");
-  for (const Entry& entry : list.entries) {
-    appendEntry(bytes, entry);
-    if (bytes.size() < kPiece) continue;
-    out.write(bytes);
-    bytes.clear();
-  }
-  out.write(bytes);
+void writeGlossary(const WordList& list, TextView title, Output& output) {
+  TextOutput out(output, encoded);
+  out << title << u"\r\n---\r\n";
+  for (const Entry& entry : list.entries) writeEntry(entry, out);
+  out.flush();
 }
 
 }  // namespace termvik::tool

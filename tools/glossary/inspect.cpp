@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "glossary/entry_lines.h"
+#include "losses.h"
 #include "word_types.h"
 
 namespace termvik::tool {
@@ -15,9 +15,13 @@ namespace {
 class BlockVisitor {
  public:
   BlockVisitor(const GlossaryLines& lines, const Collation& collation, Findings& findings)
-      : lines_(lines), collation_(collation), findings_(findings) {}
+      : lines_(lines),
+        collation_(collation),
+        findings_(findings),
+        losses_(lines, collation, findings) {}
 
   void word(std::int32_t line, TextView text, char16_t wordType) {
+    losses_.word(line, text, wordType);
     const char16_t type = languageOr(collation_, wordType);
     if (table().kind(line) == LineKind::Word) inspectWordLine(line, type);
     if (text.empty()) return;
@@ -27,28 +31,19 @@ class BlockVisitor {
     if (!collation_.isEmpty(text)) words_.push_back({text, lines_.editorLine(line), type});
   }
 
-  void comment(std::int32_t line, TextView, bool isHead) {
-    if (isHead && firstHead_ != 0) {
-      find(kinds::kLostComment, line, "a second C: in the entry; the comment before it is lost");
-    }
-    if (isHead && firstHead_ == 0) firstHead_ = line;
+  void comment(std::int32_t line, TextView text, bool isHead) {
+    losses_.comment(line, text, isHead);
     if (!isHead && table().kind(line) == LineKind::Word &&
         isLanguage(languageOr(collation_, table()[line].front()))) {
       find(kinds::kWordInComment, line, inQuotes(table()[line]) + " belongs to the comment above");
     }
   }
 
-  void passedOver(std::int32_t line) {
-    const bool isVersionLine = line == 1;
-    if (isVersionLine || table().kind(line) == LineKind::Empty) return;
-    find(kinds::kLostLine, line, inQuotes(table()[line]) + " stands ahead of the first word");
-  }
+  void passedOver(std::int32_t line) { losses_.passedOver(line); }
 
   // The words of the block, when all of its lines have been told.
   const InspectedWords& finish() {
-    if (words_.empty() && firstHead_ != 0) {
-      find(kinds::kLostBlock, firstHead_, "the comment has no word, so that nothing leads to it");
-    }
+    losses_.finish();
     findSameWords();
     return words_;
   }
@@ -65,9 +60,6 @@ class BlockVisitor {
     constexpr std::size_t kMark = 2;  // characters
     if (text.size() == kMark) {
       find(kinds::kEmptyWord, line, "no word stands after " + inQuotes(text));
-    } else if (text[kMark] != u' ') {
-      find(kinds::kLostLetter, line,
-           inQuotes(text) + " has no blank after its mark; its third character is lost");
     }
     if (!isLanguage(type)) {
       find(kinds::kWordType, line, inQuotes(text.substr(0, kMark)) + " stands for no language");
@@ -105,26 +97,19 @@ class BlockVisitor {
   const GlossaryLines& lines_;
   const Collation& collation_;
   Findings& findings_;
+  Losses losses_;
   InspectedWords words_;
-  std::int32_t firstHead_ = 0;  // the line of the first comment head; 0 when there is none
 };
 
 }  // namespace
 
 void inspectEntries(const GlossaryLines& lines, const Collation& collation, Findings& findings,
                     const std::function<void(const InspectedWords&)>& visit) {
-  const LineTable& table = lines.table();
-  for (std::int32_t first = 1; first <= table.upperBound(); ++first) {
-    if (table.kind(first) == LineKind::Separator) continue;
-    LineRange block{first, first};
-    while (block.last < table.upperBound() && table.kind(block.last + 1) != LineKind::Separator) {
-      ++block.last;
-    }
+  for (LineRange block{1, 1}; findBlock(lines.table(), block); block.first = block.last + 1) {
     BlockVisitor visitor(lines, collation, findings);
-    visitEntry(table, block, visitor);
+    visitEntry(lines.table(), block, visitor);
     const InspectedWords& words = visitor.finish();
     if (!words.empty()) visit(words);
-    first = block.last;
   }
 }
 

@@ -48,7 +48,7 @@ class Index {
  public:
   void add(Key key, std::size_t entry) {
     if (!isLanguage(typeOf(key))) return;
-    Entries& entries = entries_[key];
+    Numbers& entries = entries_[key];
     const auto place = std::lower_bound(entries.begin(), entries.end(), entry);
     if (place == entries.end() || *place != entry) entries.insert(place, entry);
   }
@@ -57,15 +57,15 @@ class Index {
   std::optional<std::size_t> firstSharing(const Keys& keys) const;
 
  private:
-  using Entries = std::vector<std::size_t>;  // rising
+  using Numbers = std::vector<std::size_t>;  // of entries, rising
 
   // The entries with one of the words.
   struct Sharing {
     char16_t language = u'\0';
-    const Entries* entries = nullptr;
+    const Numbers* entries = nullptr;
   };
 
-  std::unordered_map<Key, Entries> entries_;
+  std::unordered_map<Key, Numbers> entries_;
 };
 
 // Such an entry stands in the lists of two languages, so that those of the language with the
@@ -111,7 +111,7 @@ class Merger {
   }
 
   std::vector<MergeCounts> merge() {
-    std::vector<Entry> entries = std::exchange(list_.entries, {});
+    Entries entries = std::exchange(list_.entries, {});
     list_.entries.reserve(entries.size());
     std::size_t nextWord = 0;
     for (Entry& entry : entries) {

@@ -51,7 +51,7 @@ std::vector<Text> cellsOf(const Entry& entry, char16_t type, Messages& messages)
 
 }  // namespace
 
-void readOmegaT(const Text& text, std::uint16_t input, const ReadOptions& options, WordList& list,
+void readOmegaT(TextView text, std::uint16_t input, const ReadOptions& options, WordList& list,
                 Messages& messages) {
   const std::size_t firstEntry = list.entries.size();
   TextView rest = text;
@@ -79,13 +79,13 @@ void readOmegaT(const Text& text, std::uint16_t input, const ReadOptions& option
       entry.words.push_back({source, place, options.source});
       if (!comment.empty()) entry.comment.push_back({comment, place});
     }
-    std::vector<Word>& words = list.entries.back().words;
+    auto& words = list.entries.back().words;
     const bool again = words.size() > 1 && words.back().text == target;
     if (!again) words.push_back({target, place, options.target});
   }
 }
 
-void writeOmegaT(const WordList& list, const ReadOptions& options, Utf8Output& out,
+void writeOmegaT(const WordList& list, const ReadOptions& options, TextOutput& out,
                  Messages& messages) {
   std::size_t leftOut = 0;
   for (const Entry& entry : list.entries) {

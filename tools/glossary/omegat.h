@@ -10,11 +10,11 @@
 namespace termvik::tool {
 
 // The texts of the entries lie in `text`.
-void readOmegaT(const Text& text, std::uint16_t input, const ReadOptions& options, WordList& list,
+void readOmegaT(TextView text, std::uint16_t input, const ReadOptions& options, WordList& list,
                 Messages& messages);
 
 // Writes a row for each pair of a source word and a target word, and tells what that leaves out.
-void writeOmegaT(const WordList& list, const ReadOptions& options, Utf8Output& out,
+void writeOmegaT(const WordList& list, const ReadOptions& options, TextOutput& out,
                  Messages& messages);
 
 }  // namespace termvik::tool

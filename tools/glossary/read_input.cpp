@@ -14,22 +14,23 @@ std::optional<Text> readInput(std::uint16_t input, Format format, const ReadOpti
                               const Collation& collation, Streams& streams, WordList& list,
                               Messages& messages) {
   const std::string& name = messages.inputName(input);
-  std::string bytes = readBytes(name, streams);
+  FileBytes fileBytes = readBytes(name, streams);
+  const std::string_view bytes = viewOf(fileBytes);
   if (format == Format::Tbx) {  // XML says itself what its encoding is
     readTbx(bytes, input, options.encoding, list, messages);
     return std::nullopt;
   }
-  if (format == Format::Glossary) {
-    const bool isPlain = encodingOf(bytes, options.encoding) == Encoding::Windows1252;
-    return readGlossary(
-        isPlain ? GlossaryLines::ofWindows1252(bytes, collation)
-                : GlossaryLines::ofText(decodeText(bytes, options.encoding, name), collation),
-        input, collation, list, messages);
+  if (format == Format::Glossary && encodingOf(bytes, options.encoding) == Encoding::Windows1252) {
+    return readGlossary(GlossaryLines::ofWindows1252(bytes, collation), input, collation, list,
+                        messages);
   }
-  const auto owned = std::make_shared<const Text>(decodeText(bytes, options.encoding, name));
+  const auto owned = std::make_shared<const FileText>(decodeText(bytes, options.encoding, name));
+  const TextView text = viewOf(*owned);
+  FileBytes().swap(fileBytes);
+  if (format == Format::Glossary) {
+    return readGlossary(GlossaryLines::ofText(text, collation), input, collation, list, messages);
+  }
   list.keepOwner(owned);
-  const Text& text = *owned;
-  std::string().swap(bytes);
   if (format == Format::OmegaT) {
     readOmegaT(text, input, options, list, messages);
   } else {

@@ -12,10 +12,10 @@ namespace termvik::tool {
 
 // Adds the rows of a table as entries, whose texts lie in `text`. Throws Failure for what is no
 // such table.
-void readTable(const Text& text, std::uint16_t input, const ReadOptions& options,
-               char16_t delimiter, const Collation& collation, WordList& list, Messages& messages);
+void readTable(TextView text, std::uint16_t input, const ReadOptions& options, char16_t delimiter,
+               const Collation& collation, WordList& list, Messages& messages);
 
-void writeTable(const WordList& list, char16_t delimiter, TextView lineEnd, Utf8Output& out);
+void writeTable(const WordList& list, char16_t delimiter, TextView lineEnd, TextOutput& out);
 
 // Several words in one cell are parted by `|`. Of the backslashes right before one each pair stands
 // for a backslash, and an odd one left over makes the `|` part of the word.

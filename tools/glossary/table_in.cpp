@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <iterator>
 
 #include "cells.h"
 #include "columns.h"
@@ -24,7 +23,7 @@ class TableReader {
     messages_.tell(Severity::Warning, {line, input_}, text);
   }
   void warnOfCellsBehind(const Row& row);
-  void addWords(const Cell& cell, char16_t type, Entry& entry);
+  void addWords(const Cell& cell, char16_t type);
 
   std::uint16_t input_;
   const Collation& collation_;
@@ -32,6 +31,7 @@ class TableReader {
   Messages& messages_;
   std::vector<Column> columns_;
   std::vector<bool> nameless_;  // columns whose content nobody has been told of yet
+  Entry entry_;
 };
 
 void TableReader::useHeader(const Row& header) {
@@ -72,11 +72,11 @@ void TableReader::warnOfCellsBehind(const Row& row) {
   }
 }
 
-void TableReader::addWords(const Cell& cell, char16_t type, Entry& entry) {
+void TableReader::addWords(const Cell& cell, char16_t type) {
   const auto add = [&](TextView word, bool lasts) {
     word = trim(word);
     if (word.empty()) return;
-    entry.words.push_back({lasts ? word : list_.keep(word), {cell.line, input_}, type});
+    entry_.words.push_back({lasts ? word : list_.keep(word), {cell.line, input_}, type});
   };
   TextView rest = cell.text;
   std::size_t end = rest.find(u'|');
@@ -93,22 +93,22 @@ void TableReader::addWords(const Cell& cell, char16_t type, Entry& entry) {
 
 void TableReader::add(const Row& row) {
   if (row.strayText) warn(row.line, "text stands after a closing quote; it is taken as it is");
-  Entry entry{.place = {row.line, input_}, .words = {}, .comment = {}};
-  entry.words.reserve(row.cells.size());
+  entry_.clear();
+  entry_.place = {row.line, input_};
   for (std::size_t i = 0; i < std::min(columns_.size(), row.cells.size()); ++i) {
     const Cell& cell = row.cells[i];
     if (columns_[i] == Column::None || cell.text.empty()) continue;
     if (columns_[i] == Column::Comment) {
       const TextView text = cell.lasts ? cell.text : list_.keep(cell.text);
-      entry.comment.push_back({text, {cell.line, input_}});
+      entry_.comment.push_back({text, {cell.line, input_}});
     } else {
-      addWords(cell, letterOf(columns_[i]), entry);
+      addWords(cell, letterOf(columns_[i]));
     }
   }
   warnOfCellsBehind(row);
-  if (!entry.words.empty()) {
-    list_.entries.push_back(std::move(entry));
-  } else if (!entry.comment.empty() && !trim(entry.comment.front().text).empty()) {
+  if (!entry_.words.empty()) {
+    list_.add(entry_);
+  } else if (!entry_.comment.empty() && !trim(entry_.comment.front().text).empty()) {
     warn(row.line, "the row has a comment and no word; it is passed over");
   }
 }
@@ -129,8 +129,8 @@ std::vector<Text> wordsOfCell(TextView cell) {
   return words;
 }
 
-void readTable(const Text& text, std::uint16_t input, const ReadOptions& options,
-               char16_t delimiter, const Collation& collation, WordList& list, Messages& messages) {
+void readTable(TextView text, std::uint16_t input, const ReadOptions& options, char16_t delimiter,
+               const Collation& collation, WordList& list, Messages& messages) {
   CellReader cells(text, delimiter, messages.inputName(input));
   TableReader reader(input, collation, list, messages);
   Row row;

@@ -63,7 +63,7 @@ void appendWordToCell(Text& cell, TextView word) {
   }
 }
 
-void writeTable(const WordList& list, char16_t delimiter, TextView lineEnd, Utf8Output& out) {
+void writeTable(const WordList& list, char16_t delimiter, TextView lineEnd, TextOutput& out) {
   const Text columns = usedColumns(list);
   Text row;
   for (const char16_t column : columns) {

@@ -21,6 +21,6 @@ void readTbx(std::string_view bytes, std::uint16_t input, std::optional<Encoding
 void mendForTbx(WordList& list, Messages& messages);
 
 // Writes TBX-Basic, version 3, in its style dca.
-void writeTbx(const WordList& list, Utf8Output& out);
+void writeTbx(const WordList& list, TextOutput& out);
 
 }  // namespace termvik::tool

@@ -75,19 +75,14 @@ class TbxHandler : public XmlHandler {
  private:
   enum class Collecting : std::uint8_t { Nothing, Term, Comment };
 
-  // A language of the file by its first part. Words of one that the program lacks are counted.
+  // A language of the file. Words of one that the program lacks are counted.
   struct Language {
     char16_t wordType = u'\0';
     Place firstWord;
     std::size_t words = 0;
   };
-  using Languages = std::map<std::string, Language, std::less<>>;
 
-  Languages::iterator languageNamed(std::string_view tag) {
-    std::string name = firstPart(tag);
-    const char16_t wordType = wordTypeOf(name);
-    return languages_.try_emplace(std::move(name), Language{wordType, {}, 0}).first;
-  }
+  Language& languageOf(std::string_view tag);
 
   Place here() { return {lines_.lineOf(offset), input_}; }
   void endCollecting();
@@ -99,7 +94,8 @@ class TbxHandler : public XmlHandler {
   WordList& list_;
   Messages& messages_;
   bool isTbx_ = false;
-  Languages languages_;
+  std::map<std::string, Language, std::less<>> languages_;  // by the first parts of their tags
+  std::map<std::string, Language*, std::less<>> tags_;      // as they stand in the file
   std::vector<Language*> open_;   // of the open elements: each has its own or its parent's
   std::size_t conceptDepth_ = 0;  // of the open concept; 0 when there is none
   Entry entry_;
@@ -109,15 +105,26 @@ class TbxHandler : public XmlHandler {
   std::string text_;
 };
 
+TbxHandler::Language& TbxHandler::languageOf(std::string_view tag) {
+  const auto known = tags_.find(tag);
+  if (known != tags_.end()) return *known->second;
+  const std::string name = firstPart(tag);
+  Language& language =
+      languages_.try_emplace(name, Language{wordTypeOf(name), {}, 0}).first->second;
+  tags_.emplace(tag, &language);
+  return language;
+}
+
 void TbxHandler::begin(std::string_view element, const Attributes& attributes) {
   if (open_.empty()) isTbx_ = isRoot(element);
   const std::string_view language = attributes["lang"];
   const bool inherits = language.empty() && !open_.empty();
-  open_.push_back(inherits ? open_.back() : &languageNamed(language)->second);
+  open_.push_back(inherits ? open_.back() : &languageOf(language));
   if (conceptDepth_ == 0 && isConcept(element)) {
     isTbx_ = isTbx_ || element != "entry";  // many an XML that is no TBX has one of these
     conceptDepth_ = open_.size();
-    entry_ = {.place = here(), .words = {}, .comment = {}};
+    entry_.clear();
+    entry_.place = here();
   }
   if (conceptDepth_ == 0 || collecting_ != Collecting::Nothing) return;
   if (element == "term") collecting_ = Collecting::Term;
@@ -158,7 +165,7 @@ void TbxHandler::endConcept() {
     messages_.tell(Severity::Note, entry_.place,
                    "the concept has no word in sv, en, de or fr and is passed over");
   } else {
-    list_.entries.push_back(std::move(entry_));
+    list_.add(entry_);
   }
 }
 
@@ -191,7 +198,7 @@ void readTbx(std::string_view bytes, std::uint16_t input, std::optional<Encoding
   const std::string& name = messages.inputName(input);
   std::string utf8;  // of a file in UTF-16, so that a line end is one byte in every file
   if (const auto known = encoding ? encoding : utf16Of(bytes); isUtf16(known)) {
-    utf8 = toUtf8(decodeText(bytes, known, name));
+    utf8 = toUtf8(viewOf(decodeText(bytes, known, name)));
     bytes = utf8;
     encoding = Encoding::Utf8;
   }

@@ -120,7 +120,7 @@ void mendForTbx(WordList& list, Messages& messages) {
   dropWordless(list, messages);
 }
 
-void writeTbx(const WordList& list, Utf8Output& out) {
+void writeTbx(const WordList& list, TextOutput& out) {
   out << kBegin;
   Text xml;
   Text room;

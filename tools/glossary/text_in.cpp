@@ -24,23 +24,32 @@ constexpr std::array<Name, 3> kMarks{{{"\xEF\xBB\xBF", Encoding::Utf8},
                                       {"\xFF\xFE", Encoding::Utf16Le},
                                       {"\xFE\xFF", Encoding::Utf16Be}}};
 
-constexpr std::array<char16_t, 256> makeDecoded() {
-  std::array<char16_t, 256> decoded{};
-  for (std::size_t byte = 0; byte < decoded.size(); ++byte) {
-    decoded[byte] = windows1252::decode(static_cast<unsigned char>(byte));
-  }
-  return decoded;
-}
-
-constexpr std::array<char16_t, 256> kDecoded = makeDecoded();
-
-Text fromUtf16(std::string_view bytes, bool littleEndian) {
-  Text text(bytes.size() / 2, u'\0');
+FileText fromUtf16(std::string_view bytes, bool littleEndian) {
+  FileText text(bytes.size() / 2);
   for (std::size_t i = 0; i < text.size(); ++i) {
     const unsigned first = static_cast<unsigned char>(bytes[2 * i]);
     const unsigned second = static_cast<unsigned char>(bytes[2 * i + 1]);
     const unsigned unit = littleEndian ? second << 8U | first : first << 8U | second;
     text[i] = static_cast<char16_t>(unit);
+  }
+  return text;
+}
+
+bool isInsideCharacter(char utf8Byte) {
+  return (static_cast<unsigned char>(utf8Byte) & 0xC0U) == 0x80;
+}
+
+// Piece by piece: what a piece needs for a while stays in the cache.
+FileText fromWellFormedUtf8(std::string_view bytes) {
+  constexpr std::size_t kPiece = 1U << 15U;
+  FileText text;
+  text.reserve(bytes.size());
+  while (!bytes.empty()) {
+    std::size_t end = std::min(kPiece, bytes.size());
+    while (end < bytes.size() && isInsideCharacter(bytes[end])) --end;
+    const Text piece = fromUtf8(bytes.substr(0, end));
+    text.insert(text.end(), piece.begin(), piece.end());
+    bytes.remove_prefix(end);
   }
   return text;
 }
@@ -75,18 +84,25 @@ ByteOrderMark byteOrderMark(std::string_view bytes) {
   return {};
 }
 
-void decodeWindows1252(std::string_view bytes, Text& text) {
-  text.resize(bytes.size());
-  std::transform(bytes.begin(), bytes.end(), text.begin(),
-                 [](char byte) { return kDecoded[static_cast<unsigned char>(byte)]; });
+// Nearly all bytes have the code of their character, and the compiler widens many at a time.
+void decodeWindows1252(std::string_view bytes, char16_t* text) {
+  int anySpecial = 0;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(bytes[i]);
+    text[i] = byte;
+    anySpecial |= static_cast<int>(windows1252::isSpecial(byte));
+  }
+  if (anySpecial == 0) return;
+  std::transform(bytes.begin(), bytes.end(), text,
+                 [](char byte) { return windows1252::decode(static_cast<unsigned char>(byte)); });
 }
 
 std::uint32_t LineCount::lineOf(std::size_t offset) {
   if (offset <= counted_) return line_;
   const std::string_view passed = bytes_.substr(counted_, offset - counted_);
   auto ends = std::count(passed.begin(), passed.end(), '\n');
-  for (std::size_t cr = passed.find('\r'); cr < passed.size(); cr = passed.find('\r', cr + 1)) {
-    if (!bytes_.substr(counted_ + cr + 1).starts_with('\n')) ++ends;
+  for (; nextCr_ < offset; nextCr_ = bytes_.find('\r', nextCr_ + 1)) {
+    if (!bytes_.substr(nextCr_ + 1).starts_with('\n')) ++ends;
   }
   line_ += static_cast<std::uint32_t>(ends);
   counted_ = offset;
@@ -108,14 +124,15 @@ Encoding encodingOf(std::string_view bytes, std::optional<Encoding> encoding) {
   return isUtf8(bytes) ? Encoding::Utf8 : Encoding::Windows1252;
 }
 
-Text decodeText(std::string_view bytes, std::optional<Encoding> chosen, const std::string& name) {
+FileText decodeText(std::string_view bytes, std::optional<Encoding> chosen,
+                    const std::string& name) {
   const ByteOrderMark mark = byteOrderMark(bytes);
   const Encoding encoding = encodingOf(bytes, chosen);
   const bool isFound = !chosen && !mark.encoding;  // by a look at all bytes
   if (encoding == mark.encoding) bytes.remove_prefix(mark.length);
   switch (encoding) {
     case Encoding::Utf8:
-      if (isFound || isUtf8(bytes)) return fromUtf8(bytes);
+      if (isFound || isUtf8(bytes)) return fromWellFormedUtf8(bytes);
       throw Failure(placeText(name, firstBadLine(bytes)) + "error: this is no UTF-8");
     case Encoding::Utf16Le:
     case Encoding::Utf16Be:
@@ -124,8 +141,8 @@ Text decodeText(std::string_view bytes, std::optional<Encoding> chosen, const st
     case Encoding::Windows1252:
       break;
   }
-  Text text;
-  decodeWindows1252(bytes, text);
+  FileText text(bytes.size());
+  decodeWindows1252(bytes, text.data());
   return text;
 }
 

@@ -1,31 +1,39 @@
 // SPDX-License-Identifier: MIT
-// Text on its way into a file in UTF-8, many small pieces at a time.
+// Text on its way into a file, many small pieces at a time.
 #pragma once
+
+#include <string>
 
 #include "common/system/text.h"
 #include "files_in_out.h"
 
 namespace termvik::tool {
 
-class Utf8Output {
+class TextOutput {
  public:
-  explicit Utf8Output(Output& output) : output_(output) {}
+  // `encode` gives the bytes of a text.
+  using Encode = std::string (*)(TextView);
 
-  Utf8Output& operator<<(TextView text) {
+  explicit TextOutput(Output& output, Encode encode = toUtf8) : output_(output), encode_(encode) {
+    waiting_.reserve(2 * kPiece);
+  }
+
+  TextOutput& operator<<(TextView text) {
     waiting_.append(text);
     if (waiting_.size() > kPiece) flush();
     return *this;
   }
 
   void flush() {
-    output_.write(toUtf8(waiting_));
+    output_.write(encode_(waiting_));
     waiting_.clear();
   }
 
  private:
-  static constexpr std::size_t kPiece = 1U << 16U;
+  static constexpr std::size_t kPiece = 1U << 14U;
 
   Output& output_;
+  Encode encode_;
   Text waiting_;
 };
 

@@ -4,11 +4,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "common/collation/text_arena.h"
+#include "common/system/large_vector.h"
 #include "common/system/text.h"
 
 namespace termvik::tool {
@@ -38,8 +40,13 @@ struct CommentPiece {
 
 struct Entry {
   Place place;
-  std::vector<Word> words;
-  std::vector<CommentPiece> comment;
+  std::pmr::vector<Word> words;
+  std::pmr::vector<CommentPiece> comment;
+
+  void clear() {
+    words.clear();
+    comment.clear();
+  }
 };
 
 bool hasWord(const Entry& entry, char16_t type);
@@ -47,8 +54,23 @@ bool hasWord(const Entry& entry, char16_t type);
 // The pieces of a comment as one text, joined by LF; it lies in `room` when there are several.
 TextView commentText(const Entry& entry, Text& room);
 
-struct WordList {
-  std::vector<Entry> entries;
+using Entries = LargeVector<Entry>;
+
+class WordList {
+ private:
+  // What the entries lie in goes after them. Nothing of it is taken back before.
+  std::pmr::monotonic_buffer_resource memory_;
+  TextArena<char16_t> texts_;
+  Text ascii_;  // room for keepUtf8
+  std::vector<std::shared_ptr<const void>> owners_;
+
+ public:
+  Entries entries;
+
+  // Adds a copy of `entry`, which takes just the room that it needs.
+  void add(const Entry& entry) {
+    entries.push_back({entry.place, {entry.words, &memory_}, {entry.comment, &memory_}});
+  }
 
   // A copy of `text` that stays as long as the list.
   TextView keep(TextView text) { return {texts_.add(text), text.size()}; }
@@ -57,11 +79,6 @@ struct WordList {
 
   // Texts of the entries may lie in `owner`, which stays as long as the list.
   void keepOwner(std::shared_ptr<const void> owner) { owners_.push_back(std::move(owner)); }
-
- private:
-  TextArena<char16_t> texts_;
-  Text ascii_;  // room for keepUtf8
-  std::vector<std::shared_ptr<const void>> owners_;
 };
 
 // Takes the next line off `text`: it ends at CR LF, LF or CR, which go as well. False when the text
