@@ -40,6 +40,7 @@ TEST_F(CommandLine, RefusesWrongUsage) {
                             {"convert", "a.txt", "b.txt", "c.txt"},
                             {"convert", "a.txt", "out"},
                             {"convert", "a.txt", "-"},
+                            {"convert", "a.txt", ""},
                             {"convert", "-", "out.csv"},
                             {"convert", "a.txt", "x.csv", "--to", "doc"},
                             {"convert", "a.txt", "x.csv", "--encoding", "x"},
@@ -73,6 +74,8 @@ TEST_F(CommandLine, ReadsStandardInputAndWritesStandardOutput) {
   const Result odd = run({"convert", "--from=csv", "-", "--to=tsv", "-"}, "S,x\na\n");
   EXPECT_EQ(odd.err, "-:1: warning: the column 'x' is passed over\n");
   EXPECT_EQ(odd.status, 1);
+  const Strings twice = {"convert", "-", "-", "--from", "csv", "--to", "csv", "--to", "tsv"};
+  EXPECT_EQ(run(twice, "S\na\n").out, "S\na\n");
 }
 
 TEST_F(CommandLine, ReplacesAFileOnlyWhenItIsToldTo) {

@@ -66,6 +66,7 @@ void describe(CLI::App& app, const CommandHelp& help) {
 }
 
 // An option with a value of `type`. `take` gives false for a value that is not `what` it must be.
+// Of an option that stands twice the last one counts, as with other commands.
 void addValue(CLI::App& app, const std::string& name, const std::string& type,
               const std::string& what, const std::string& help,
               const std::function<bool(const std::string&)>& take) {
@@ -73,7 +74,7 @@ void addValue(CLI::App& app, const std::string& name, const std::string& type,
     const std::string value = plainArgument(argument);
     if (!take(value)) throw CLI::ValidationError(name, "'" + value + "' is not " + what);
   };
-  app.add_option_function<std::string>(name, check, help)->type_name(type);
+  app.add_option_function<std::string>(name, check, help)->type_name(type)->take_last();
 }
 
 // Reads a name by `named`, which gives nothing for one that is unknown.
@@ -189,6 +190,7 @@ class CommandLine {
   // The last file of a command that writes is its output.
   void takeFiles() {
     std::transform(files_.begin(), files_.end(), files_.begin(), plainArgument);
+    if (std::find(files_.begin(), files_.end(), "") != files_.end()) fail("a file has no name");
     const bool writes = options_.command == Command::Convert || options_.command == Command::Merge;
     if (options_.command == Command::Convert && files_.size() != 2) {
       fail("convert takes one INPUT and one OUTPUT");
