@@ -132,7 +132,12 @@ class QtHands : public QObject, public Hands {
     QListView& view = *dynamic_cast<QtListBox&>(list).widget();
     const QModelIndex index = view.model()->index(row, 0);
     view.scrollTo(index);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    const QPoint middle = view.visualRect(index).center();
+    if (view.viewport()->rect().contains(middle)) {
+      QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, middle);
+    } else {
+      view.setCurrentIndex(index);  // the list is too small to show it
+    }
     settle();
   }
 
@@ -141,7 +146,10 @@ class QtHands : public QObject, public Hands {
     QMenuBar* bar = qtWindow.widget().menuBar();
     QAction* action = qtWindow.action(item);
     const QRect place = bar->actionGeometry(action);
-    if (bar->rect().contains(place.center())) {
+    // Over the last items that a narrow bar has room for lies the button to the others.
+    const bool seen =
+        bar->rect().contains(place) && bar->childAt(place.right(), place.center().y()) == nullptr;
+    if (seen) {
       QTest::mouseClick(bar, Qt::LeftButton, {}, place.center());
     } else {
       action->trigger();  // the window is too narrow for it

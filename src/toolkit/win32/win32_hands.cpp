@@ -150,7 +150,19 @@ class Win32Hands : public Hands {
     RECT place{};
     place.left = LVIR_BOUNDS;
     SendMessageW(view, LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
-    clickAt(view, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    const POINT middle = {(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    RECT shown;
+    GetClientRect(view, &shown);
+    if (PtInRect(&shown, middle) != FALSE) {
+      clickAt(view, middle);
+      return;
+    }
+    // The list is too small to show it.
+    LVITEMW selected{};
+    selected.state = selected.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    SendMessageW(view, LVM_SETITEMSTATE, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&selected));
+    settle();
   }
 
   void choose(Window& window, MenuItem& item) override {
