@@ -144,7 +144,10 @@ void Player::actOnWords(std::string_view command, const Words& words) {
   if (command == "maximise") hands_.maximise(window());
   if (command == "minimise") hands_.minimise(window());
   if (command == "restore") hands_.restore(window());
-  if (command == "state") out_ << stateJson(*program_) << '\n';
+  if (command == "state") {
+    out_ << stateJson(*program_) << '\n';
+    if (counted_) out_ << counted_() << '\n';
+  }
   if (command == "controls") out_ << controlsJson(*program_) << '\n';
   if (command == "rows") {
     constexpr std::int32_t kAny = std::numeric_limits<std::int32_t>::max();

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/program.h"
@@ -28,6 +29,10 @@ class Player {
 
   // Prints what the program says to a screen reader too.
   void printSpeech() { printsSpeech_ = true; }
+
+  // Prints behind each state a line of what the process holds.
+  using Counted = std::function<std::string()>;
+  void printCounted(Counted counted) { counted_ = std::move(counted); }
 
   // Does what one line says. Throws ScriptError.
   void play(std::string_view line);
@@ -54,6 +59,7 @@ class Player {
   const App& app_;
   std::ostream& out_;
   bool printsSpeech_ = false;
+  Counted counted_;
   std::unique_ptr<Program> program_;
 };
 

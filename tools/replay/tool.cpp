@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // termvik-replay: the program under a script of what a user does.
 //
-//   termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT] [--say] --folder DIR
-//   [SCRIPT]
+//   termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT] [--say] [--handles]
+//   --folder DIR [SCRIPT]
 //
 // See docs/replay.md for the script's commands and what is printed.
 #include "tool.h"
@@ -28,6 +28,7 @@ struct Options {
   std::string toolkit = "memory";
   ScreenSize screen{28800, 16200};
   bool say = false;
+  bool handles = false;
   std::filesystem::path folder;
   std::filesystem::path script;
 };
@@ -54,6 +55,8 @@ bool readOptions(const replay::Arguments& arguments, Options& options, std::stri
       options.toolkit = toUtf8(pathText(arguments[++i]));
     } else if (argument == "--say") {
       options.say = true;
+    } else if (argument == "--handles") {
+      options.handles = true;
     } else if (argument == "--folder") {
       options.folder = arguments[++i];
     } else if (argument == "--screen") {
@@ -86,17 +89,22 @@ int playScript(std::istream& script, replay::Player& player) {
   return 0;
 }
 
-int run(const Options& options) {
+int run(const Options& options, const replay::Player::Counted& counted) {
   const Collation collation("sv_SE");
   const std::unique_ptr<Hands> hands = makeHands(options.toolkit, collation, options.screen);
   if (!hands) {
     std::cerr << "termvik-replay: this build has no toolkit " << options.toolkit << '\n';
     return kWrongUse;
   }
+  if (options.handles && !counted) {
+    std::cerr << "termvik-replay: Windows alone has --handles\n";
+    return kWrongUse;
+  }
   App app;
   app.Path = options.folder;
   replay::Player player(*hands, collation, app, std::cout);
   if (options.say) player.printSpeech();
+  if (options.handles) player.printCounted(counted);
   if (options.script.empty()) return playScript(std::cin, player);
   std::ifstream script(options.script, std::ios::binary);
   if (!script) {
@@ -108,16 +116,16 @@ int run(const Options& options) {
 
 }  // namespace
 
-int replay::runTool(const Arguments& arguments) {
+int replay::runTool(const Arguments& arguments, const Player::Counted& counted) {
   Options options;
   std::string wrong;
   if (!readOptions(arguments, options, wrong)) {
     std::cerr << "termvik-replay: " << wrong
               << "\nusage: termvik-replay [--toolkit memory|qt|win32] [--screen WIDTHxHEIGHT]"
-                 " [--say] --folder DIR [SCRIPT]\n";
+                 " [--say] [--handles] --folder DIR [SCRIPT]\n";
     return kWrongUse;
   }
-  return run(options);
+  return run(options, counted);
 }
 
 }  // namespace termvik

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "player.h"
+
 namespace termvik::replay {
 
 // What stands on the command line after the program's name. Paths hold every text that it can
@@ -12,6 +14,7 @@ namespace termvik::replay {
 using Arguments = std::vector<std::filesystem::path>;
 
 // The program's exit status. Standard input and output carry bytes: no line end is changed.
-int runTool(const Arguments& arguments);
+// `counted` is what `--handles` prints, where there is something to count.
+int runTool(const Arguments& arguments, const Player::Counted& counted = {});
 
 }  // namespace termvik::replay
