@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QTest>
 
+#include "dialogs/frm_about_design.h"
 #include "qt_controls.h"
 #include "qt_main_window.h"
 
@@ -38,6 +39,30 @@ TEST_F(QtMainWindow, EveryControlHasANameToBeSaidAndRoomForItsCaption) {
     if (!isButton || qobject_cast<QPushButton*>(shown) != nullptr) continue;
     EXPECT_LE(shown->sizeHint().width(), shown->width()) << toUtf8(control->design().caption);
   }
+}
+
+TEST(QtFonts, CaptionsFitTheirPlacesInAWideFontToo) {
+  const Collation collation{"sv_SE"};
+  const std::unique_ptr<Hands> hands = makeQtHands(collation);
+  const QFont before = QApplication::font();
+  for (const char* family : {"DejaVu Sans", "DejaVu Sans Mono"}) {
+    QApplication::setFont(QFont(QString::fromLatin1(family), 15));
+    for (const WindowDesign& design : {frmGlossaryDesign(), frmAboutDesign()}) {
+      const std::unique_ptr<Window> window = hands->toolkit().createWindow(design);
+      for (const auto& control : window->controls()) {
+        const QWidget& shown = *qtWidget(*control);
+        const QString caption = toQt(control->design().caption).trimmed();
+        if (caption.isEmpty()) continue;
+        const bool wraps =
+            control->design().multiLine || control->design().kind == ControlKind::TextBox;
+        const int flags = wraps ? Qt::TextWordWrap : Qt::TextSingleLine;
+        const QRect needs = shown.fontMetrics().boundingRect(shown.rect(), flags, caption);
+        EXPECT_LE(needs.width(), shown.width()) << toUtf8(control->design().caption);
+        EXPECT_LE(needs.height(), shown.height()) << toUtf8(control->design().caption);
+      }
+    }
+  }
+  QApplication::setFont(before);
 }
 
 TEST_F(QtMainWindow, LogoAndAddressEndAtTheRight) {

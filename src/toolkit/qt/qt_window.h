@@ -51,7 +51,6 @@ class QtWindow : public Window {
                   const Collation& collation);
   QButtonGroup& exclusiveGroup(const ControlDesign& design);
   QWidget* containerOf(const ControlDesign& design) const;
-  void setTabOrder();
   void addMenu(const QFont& captionFont);
   void addKeys();
   void showHiddenItem(QAction* action);

@@ -42,18 +42,8 @@ void QtWindow::addControls(const Collation& collation) {
   const QFont font = captionFont(design());
   widget_->setFont(font);  // for what is shown beside the controls
   if (!design().menu.empty()) addMenu(font);
+  // Tab goes through them in the order in which they are made.
   for (const ControlDesign& control : design().controls) addControl(control, font, collation);
-  setTabOrder();
-}
-
-void QtWindow::setTabOrder() {
-  QWidget* previous = nullptr;
-  for (const auto& control : controls()) {
-    QWidget* widget = qtWidget(*control);
-    if (widget->focusPolicy() == Qt::NoFocus) continue;
-    if (previous != nullptr) QWidget::setTabOrder(previous, widget);
-    previous = widget;
-  }
 }
 
 void QtWindow::addControl(const ControlDesign& design, const QFont& captionFont,
