@@ -31,9 +31,9 @@ class ForReaders : public QAccessibleObject {
   QAccessible::Role role_;
 };
 
-class Notification : public ForReaders {
+class Utterance : public ForReaders {
  public:
-  Notification(QObject& object, const QString& utterance)
+  Utterance(QObject& object, const QString& utterance)
       : ForReaders(object, QAccessible::Notification), utterance_(utterance) {}
 
   QString text(QAccessible::Text kind) const override {
@@ -47,20 +47,28 @@ class Notification : public ForReaders {
 }  // namespace
 
 // Qt lets go of the interfaces together with their objects.
-QtAnnouncer::QtAnnouncer(QWidget& window) : QObject(&window), notification_(this) {
+QtAnnouncer::QtAnnouncer(QWidget& window)
+    : QObject(&window), notifications_{Notification(this), Notification(this)} {
   QAccessible::registerAccessibleInterface(new ForReaders(*this, QAccessible::StatusBar));
-  QAccessible::registerAccessibleInterface(new Notification(notification_, utterance_));
+  for (Notification& each : notifications_) {
+    QAccessible::registerAccessibleInterface(new Utterance(each, each.utterance));
+  }
   rest_.setSingleShot(true);
   connect(&rest_, &QTimer::timeout, this, &QtAnnouncer::announce);
 }
 
+// What has not been heard by now is not worth hearing any more.
 void QtAnnouncer::say(const QString& utterance) {
-  utterance_ = utterance;
+  for (Notification& each : notifications_) each.utterance.clear();
+  next_ = utterance;
   rest_.start(kRestMilliseconds);
 }
 
 void QtAnnouncer::announce() {
-  QAccessibleEvent shown(&notification_, QAccessible::ObjectShow);
+  newest_ = 1 - newest_;
+  Notification& newest = notifications_[newest_];
+  newest.utterance = next_;
+  QAccessibleEvent shown(&newest, QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&shown);
 }
 

@@ -2,6 +2,8 @@
 // What the window says to a screen reader without a change of its focus.
 #pragma once
 
+#include <array>
+
 #include <QTimer>
 #include <QWidget>
 
@@ -15,10 +17,17 @@ class QtAnnouncer : public QObject {
   void say(const QString& utterance);
 
  private:
+  struct Notification : QObject {
+    using QObject::QObject;
+    QString utterance;
+  };
+
   void announce();
 
-  QString utterance_;
-  QObject notification_;
+  QString next_;
+  // They take turns, since a reader that is late asks for the words of the one before only then.
+  std::array<Notification, 2> notifications_;
+  std::size_t newest_ = 0;
   QTimer rest_;
 };
 
