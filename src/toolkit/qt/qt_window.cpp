@@ -57,6 +57,11 @@ class QtWindow::MainWindow : public QMainWindow {
     if (wasActive && !active_ && window_.open_ && window_.Deactivate) window_.Deactivate();
   }
 
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    if (!isPlain || !window_.userPressesKey(event->key())) QMainWindow::keyPressEvent(event);
+  }
+
   // Sees what comes to the menu bar.
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::KeyRelease) window_.tellOfSwitchedOffItem();
@@ -93,7 +98,6 @@ QtWindow::QtWindow(QtToolkit& toolkit, const Collation& collation, const WindowD
   widget_->setWindowTitle(toQt(design.caption));
   if (!design.accessibleName.empty()) widget_->setAccessibleName(toQt(design.accessibleName));
   addControls(collation);
-  addKeys();
   const int menuHeight = design.menu.empty() ? 0 : widget_->menuBar()->sizeHint().height();
   placing_ = true;
   widget_->resize(toPixels(design.clientWidth), toPixels(design.clientHeight) + menuHeight);

@@ -52,7 +52,7 @@ class QtWindow : public Window {
   QButtonGroup& exclusiveGroup(const ControlDesign& design);
   QWidget* containerOf(const ControlDesign& design) const;
   void addMenu(const QFont& captionFont);
-  void addKeys();
+  bool userPressesKey(int key);
   void showHiddenItem(QAction* action);
   void focusMenuBar();
   void leaveMenuBar();

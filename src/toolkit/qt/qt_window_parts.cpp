@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QProxyStyle>
-#include <QShortcut>
 #include <QToolButton>
 
 #include "qt_edit_box.h"
@@ -119,6 +118,7 @@ void QtWindow::addMenu(const QFont& captionFont) {
     });
     actions_.emplace_back(&item, action);
   }
+  bar.installEventFilter(widget_.get());
   fitMenuBar(bar, captionFont, toPixels(design().clientWidth));
   // Later, since the bar has not yet taken it for the one that the keys are at.
   QObject::connect(
@@ -141,24 +141,20 @@ void QtWindow::showHiddenItem(QAction* action) {
   menu->setActiveAction(action);
 }
 
-void QtWindow::addKeys() {
-  const auto onKey = [this](Qt::Key key, auto act) {
-    QObject::connect(new QShortcut(key, widget_.get()), &QShortcut::activated, widget_.get(), act);
-  };
-  if (!actions_.empty()) {
-    onKey(Qt::Key_F10,
-          [this] { widget_->menuBar()->hasFocus() ? leaveMenuBar() : focusMenuBar(); });
-    widget_->menuBar()->installEventFilter(widget_.get());
-  }
+// For keys that the control with the focus has no use for. Not by shortcuts, which Qt keeps from
+// screen readers: they stop speaking at each key that they hear of.
+bool QtWindow::userPressesKey(int key) {
+  const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
   for (const auto& control : controls()) {
-    auto* button = qobject_cast<QPushButton*>(qtWidget(*control));
-    if (button == nullptr) continue;
-    if (control->design().isDefault) {
-      onKey(Qt::Key_Return, [button] { button->click(); });
-      onKey(Qt::Key_Enter, [button] { button->click(); });
-    }
-    if (control->design().isCancel) onKey(Qt::Key_Escape, [button] { button->click(); });
+    const bool presses = (isEnter && control->design().isDefault) ||
+                         (key == Qt::Key_Escape && control->design().isCancel);
+    if (!presses) continue;
+    static_cast<QPushButton*>(qtWidget(*control))->click();
+    return true;
   }
+  if (key != Qt::Key_F10 || actions_.empty()) return false;
+  widget_->menuBar()->hasFocus() ? leaveMenuBar() : focusMenuBar();
+  return true;
 }
 
 void QtWindow::focusMenuBar() {
