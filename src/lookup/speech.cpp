@@ -11,16 +11,26 @@ void frmGlossary::sayRow(TextView before) {
   if (!window_->isHeard()) return;
   Text row;
   if (lstWords_.ListIndex() >= 0) {
-    row = spoken::row(lstWords_.List(lstWords_.ListIndex()), txtArticle_.text());
+    row = spoken::sentences(lstWords_.rowName(lstWords_.ListIndex()),
+                            spoken::lines(txtArticle_.text()));
   } else if (before.empty()) {
     row = listSize();
   }
   window_->say(spoken::sentences(before, row));
 }
 
+// For a row that the user has selected in the list itself.
+void frmGlossary::sayArticle() {
+  if (!window_->isHeard()) return;
+  const Text article = spoken::lines(txtArticle_.text());
+  window_->say(spoken::sentences(lstWords_.rowName(lstWords_.ListIndex()), article), article);
+}
+
 // For what is chosen beside the list: what it is now, and how much the list holds.
 void frmGlossary::sayChange(TextView change) {
-  if (window_->isHeard()) window_->say(spoken::sentences(change, listSize()));
+  if (!window_->isHeard()) return;
+  const Text size = listSize();
+  window_->say(spoken::sentences(change, size), size);
 }
 
 Text frmGlossary::listSize() const {

@@ -41,15 +41,15 @@ Text rowName(TextView row) {
 }
 
 // A speech synthesiser makes no pause between lines.
-Text row(TextView row, TextView article) {
-  Text lines;
+Text lines(TextView article) {
+  Text said;
   article = article.substr(0, kMostSaid);
   while (!article.empty()) {
     const std::size_t end = std::min(article.find_first_of(u"\r\n"), article.size());
-    lines = joined(std::move(lines), kPause, article.substr(0, end));
+    said = joined(std::move(said), kPause, article.substr(0, end));
     article.remove_prefix(std::min(end + 1, article.size()));
   }
-  return sentences(rowName(row), lines);
+  return said;
 }
 
 Text words(std::int32_t count) { return counted(count, u"word", u"words"); }

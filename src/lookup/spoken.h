@@ -12,8 +12,7 @@ namespace termvik::spoken {
 // What a row is called: its word, and "doublet" instead of the mark's hyphens.
 Text rowName(TextView row);
 
-// A row with its article.
-Text row(TextView row, TextView article);
+Text lines(TextView article);
 
 Text words(std::int32_t count);  // that the list holds
 Text hits(std::int32_t count);   // of a search

@@ -77,7 +77,7 @@ void frmGlossary::showSelectedArticle() {
 void frmGlossary::lstWords_Click() {
   if (listBusy_) return;
   showSelectedArticle();
-  sayRow();
+  sayArticle();
 }
 
 // Selects row `first`, with the rows down to `last` in view as far as the list's height allows, and

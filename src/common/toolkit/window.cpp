@@ -17,9 +17,9 @@ void Window::setMeasure(float Place::*measure, float value) {
   setOuterPlace(place);
 }
 
-void Window::say(TextView utterance) {
+void Window::say(TextView utterance, TextView news) {
   if (Said) Said(utterance);
-  if (hasListener()) speak(utterance);
+  if (hasListener()) speak(utterance, news);
 }
 
 OptionGroup& Window::optionGroup(TextView name) const {

@@ -107,7 +107,7 @@ class MemoryWindow : public Window {
 
  protected:
   bool hasListener() const override { return false; }
-  void speak(TextView) override {}
+  void speak(TextView, TextView) override {}
 
  private:
   void addControl(const ControlDesign& design);

@@ -148,9 +148,10 @@ void QtWindow::Unload() {
 
 bool QtWindow::hasListener() const { return QAccessible::isActive(); }
 
-void QtWindow::speak(TextView utterance) {
+// What the reader says by itself comes first, and only the next key cuts it off.
+void QtWindow::speak(TextView, TextView news) {
   if (announcer_ == nullptr) announcer_ = new QtAnnouncer(*widget_);
-  announcer_->say(toQt(utterance));
+  announcer_->say(toQt(news));
 }
 
 void QtWindow::userCloses() {

@@ -36,7 +36,7 @@ class QtWindow : public Window {
 
  protected:
   bool hasListener() const override;
-  void speak(TextView utterance) override;
+  void speak(TextView utterance, TextView news) override;
 
  private:
   class MainWindow;

@@ -268,7 +268,8 @@ void Win32Window::Unload() {
   PostMessageW(hwnd_, WM_NULL, 0, 0);  // a loop that waits for the window's end looks again
 }
 
-void Win32Window::speak(TextView utterance) {
+// Whole, since it cuts off what the reader says by itself.
+void Win32Window::speak(TextView utterance, TextView) {
   if (announcer_ == nullptr) announcer_ = std::make_unique<Win32Announcer>(hwnd_);
   announcer_->say(utterance);
 }

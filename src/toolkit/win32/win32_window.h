@@ -53,7 +53,7 @@ class Win32Window : public Window {
 
  protected:
   bool hasListener() const override { return Win32Announcer::hasListener(); }
-  void speak(TextView utterance) override;
+  void speak(TextView utterance, TextView news) override;
 
  private:
   static LRESULT CALLBACK procedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -88,6 +88,7 @@ class frmGlossary {
 
   // speech.cpp
   void sayRow(TextView before = {});
+  void sayArticle();
   void sayChange(TextView change);
   Text listSize() const;
   TextView captionOf(TextView option, std::int32_t index) const;

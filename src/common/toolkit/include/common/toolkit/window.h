@@ -63,8 +63,10 @@ class Window {
   // Says `utterance` to a screen reader, in place of what it is saying. Nothing changes on the
   // screen, and the focus stays where it is. Of utterances that follow each other too fast to be
   // heard only the newest need be said. Where isHeard is false there is nobody to listen, and the
-  // words need not be made.
-  void say(TextView utterance);
+  // words need not be made. `news` is the part that a reader does not say by itself when the state
+  // of the control with the focus changes: readers that cannot be cut off are given no more.
+  void say(TextView utterance) { say(utterance, utterance); }
+  void say(TextView utterance, TextView news);
   bool isHeard() const { return Said || hasListener(); }
 
   std::function<void(TextView utterance)> Said;  // what is said, for those who write it down
@@ -89,7 +91,7 @@ class Window {
 
  protected:
   virtual bool hasListener() const = 0;
-  virtual void speak(TextView utterance) = 0;  // only while there is a listener
+  virtual void speak(TextView utterance, TextView news) = 0;  // only while there is a listener
 
   void addControl(std::unique_ptr<Control> control) { controls_.push_back(std::move(control)); }
   OptionGroup& groupOf(const ControlDesign& design);  // made when it is first asked for
