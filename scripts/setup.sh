@@ -6,7 +6,7 @@ build_packages=(build-essential cmake ninja-build libicu-dev qt6-base-dev libcli
 display_packages=(xvfb openbox xdotool x11-utils imagemagick)
 core_packages=("${build_packages[@]}" libgtest-dev nlohmann-json3-dev)
 test_packages=("${display_packages[@]}" libgtest-dev nlohmann-json3-dev xclip dbus dbus-x11 at-spi2-core python3
-               python3-gi gir1.2-atspi-2.0 dict-freedict-{swe-eng,swe-fra,eng-swe,eng-fra,fra-eng})
+               python3-gi gir1.2-atspi-2.0 orca dict-freedict-{swe-eng,swe-fra,eng-swe,eng-fra,fra-eng})
 fuzz_packages=(clang libclang-rt-dev)
 bench_packages=(dbus pkg-config libbenchmark-dev libxcb-damage0-dev)
 windows_packages=(g++-mingw-w64-x86-64 wine64 googletest nlohmann-json3-dev libcli11-dev dpkg-dev cmake
