@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-
 #include <windows.h>
 
 namespace termvik::replay {
@@ -43,8 +42,8 @@ Json handlesJson() {
   auto* const process = GetCurrentProcess();
   DWORD kernel = 0;
   if (GetProcessHandleCount(process, &kernel) != 0 && kernel != 0) {
-    return asJson(GetGuiResources(process, GR_GDIOBJECTS),
-                  GetGuiResources(process, GR_USEROBJECTS), kernel);
+    return asJson(GetGuiResources(process, GR_GDIOBJECTS), GetGuiResources(process, GR_USEROBJECTS),
+                  kernel);
   }
   const auto makeEvent = [] { return CreateEventW(nullptr, TRUE, FALSE, nullptr); };
   return asJson(gdiObjects(), highestOfNew(CreateMenu, DestroyMenu),
