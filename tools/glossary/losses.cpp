@@ -37,8 +37,7 @@ void Losses::comment(std::int32_t line, TextView, bool isHead) {
 void Losses::passedOver(std::int32_t line) {
   const bool isVersionLine = line == 1;
   if (isVersionLine || lines_.table().kind(line) == LineKind::Empty) return;
-  find(kinds::kLostLine, line,
-       inQuotes(lines_.table()[line]) + " stands ahead of the first word");
+  find(kinds::kLostLine, line, inQuotes(lines_.table()[line]) + " stands ahead of the first word");
 }
 
 void Losses::finish() {
