@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <new>
+#include <utility>
 
 #include <QApplication>
 
@@ -47,15 +48,17 @@ class Application : public QApplication {
 int main(int argc, char** argv) {
   std::set_terminate(end);
   termvik::QtEndRequests endRequests;
+  const termvik::App app{.Path = termvik::programFolder(termvik::defWords::kFileNames),
+                         .decimalSeparator = termvik::userDecimalSeparator()};
+  const termvik::Collation collation(termvik::userLocaleName());
+  // Qt takes its time to find the display (bench/start).
+  termvik::LinesAhead ahead = termvik::readAhead(collation, *app.files, app.Path);
   auto starting = std::make_unique<termvik::QtStart>();
   Application application(argc, argv);
   starting.reset();
   termvik::QtToolkit::setUpApplication();
-  const termvik::App app{.Path = termvik::programFolder(termvik::defWords::kFileNames),
-                         .decimalSeparator = termvik::userDecimalSeparator()};
-  const termvik::Collation collation(termvik::userLocaleName());
   termvik::QtToolkit toolkit(collation);
-  termvik::Program program(toolkit, collation, app);
+  termvik::Program program(toolkit, collation, app, std::move(ahead));
   application.outOfMemory = [&] { program.form().runOutOfMemory(); };
   program.start();
   endRequests.follow();

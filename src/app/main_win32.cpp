@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program where the Windows API carries its window.
 #include <cstdlib>
+#include <utility>
 #include <windows.h>
 
 #include "app/program.h"
@@ -26,8 +27,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   const termvik::App app{.Path = termvik::programFolder(termvik::defWords::kFileNames),
                          .decimalSeparator = termvik::userDecimalSeparator()};
   const termvik::Collation collation(termvik::userLocaleName());
+  termvik::LinesAhead ahead = termvik::readAhead(collation, *app.files, app.Path);
   termvik::Win32Toolkit toolkit(collation);
-  termvik::Program program(toolkit, collation, app);
+  termvik::Program program(toolkit, collation, app, std::move(ahead));
   program.start();
   toolkit.handleMessages([&toolkit] { return toolkit.Forms().empty(); });
   return 0;

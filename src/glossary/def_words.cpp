@@ -3,33 +3,36 @@
 
 #include <utility>
 
-#include "common/system/line_reader.h"
 #include "entry_texts.h"
 #include "glossary/line_table.h"
+#include "read_lines.h"
 
 namespace termvik {
 
 // One glossary's file: its lines as read and the texts of its entries.
 struct defWords::Glossary {
-  explicit Glossary(const Collation& collation) : lines(collation), texts(collation, lines) {}
+  Glossary(const Collation& collation, std::future<LineTable> linesAhead)
+      : ahead(std::move(linesAhead)), lines(collation), texts(collation, lines) {}
 
   void clear() {
+    ahead = {};
     texts.clear();
     lines.clear();
   }
 
+  std::future<LineTable> ahead;  // the lines, where they are being read already
   LineTable lines;
   EntryTexts texts;
 };
 
 defWords::defWords(const Collation& collation, std::filesystem::path folder,
-                   std::function<void(TextView)> showMessage, const Files& files)
+                   std::function<void(TextView)> showMessage, const Files& files, LinesAhead ahead)
     : collation_(&collation),
       folder_(std::move(folder)),
       showMessage_(std::move(showMessage)),
       files_(&files),
-      graph_(std::make_unique<Glossary>(collation)),
-      tools_(std::make_unique<Glossary>(collation)) {}
+      graph_(std::make_unique<Glossary>(collation, std::move(ahead.graph))),
+      tools_(std::make_unique<Glossary>(collation, std::move(ahead.tools))) {}
 
 defWords::~defWords() = default;
 
@@ -56,35 +59,17 @@ void defWords::emptyGlossaries() {
 void defWords::readGlossary(TextView title, TextView fileName, Glossary& glossary,
                             std::int32_t firstIndex, std::int32_t& lastIndex, Text& version) {
   const std::filesystem::path path = fileIn(folder_, fileName);
-  readGlossaryFile(path, glossary.lines);
+  if (!fileExists(path)) {
+    showMessage_(Text(u"Could not find the glossary file ").append(pathText(path)));
+  } else {
+    glossary.lines =
+        glossary.ahead.valid() ? glossary.ahead.get() : readLines(*collation_, *files_, path);
+  }
   version = Text(title).append(kLineEnd);
   version.append(u"Filename: ").append(pathText(path)).append(kLineEnd);
   version.append(u"First line: ");
   if (glossary.lines.upperBound() >= 1) version.append(glossary.lines[1]);
   decodeGlossary(glossary, firstIndex, lastIndex);
-}
-
-// True when at least one line was stored. After a failure the lines that were stored stay, and the
-// lines that were counted and not stored are empty.
-bool defWords::readGlossaryFile(const std::filesystem::path& fileName, LineTable& lines) const {
-  if (!fileExists(fileName)) {
-    showMessage_(Text(u"Could not find the glossary file ").append(pathText(fileName)));
-    return false;
-  }
-  FileMeasure measure;
-  if (!measureFile(*files_, fileName, measure)) return false;
-  lines.reserve(measure.lines, measure.bytes);
-  LineReader reader(*files_, fileName);
-  std::string_view bytes;
-  bool grown = false;
-  while (reader.next(bytes)) {
-    grown = lines.size() == measure.lines;
-    if (grown) break;
-    lines.append(bytes);
-  }
-  const bool anyStored = lines.size() > 0;
-  while (lines.size() < measure.lines) lines.append({});
-  return anyStored && !grown && !reader.failed();
 }
 
 std::int32_t defWords::countBlocks(const LineTable& lines) {

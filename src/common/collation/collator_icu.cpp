@@ -2,6 +2,7 @@
 // The judge where ICU is the platform's collation.
 #include <array>
 #include <cstdlib>
+#include <mutex>
 #include <string_view>
 
 #include <unicode/ucol.h>
@@ -65,9 +66,10 @@ int compareWith(const IcuCollator& collator, TextView a, TextView b) {
 
 struct Collator::Platform {
   std::string locale;
-  IcuCollator plain;     // without the tailorings
-  IcuCollator letters;   // the same, comparing letters alone
-  IcuCollator tailored;  // the judge; ICU takes its time to make one from rules
+  IcuCollator plain;           // without the tailorings
+  IcuCollator letters;         // the same, comparing letters alone
+  IcuCollator tailored;        // the judge; ICU takes its time to make one from rules
+  std::once_flag judgeIsMade;  // by whichever thread asks first
 
   bool open(const std::string& name) {
     UErrorCode error = U_ZERO_ERROR;
@@ -88,7 +90,11 @@ struct Collator::Platform {
   }
 
   const IcuCollator& judge() {
-    if (tailored) return tailored;
+    std::call_once(judgeIsMade, [this] { makeJudge(); });
+    return tailored;
+  }
+
+  void makeJudge() {
     UErrorCode error = U_ZERO_ERROR;
     std::int32_t length = 0;
     const UChar* localeRules = ucol_getRules(plain.get(), &length);
@@ -96,7 +102,6 @@ struct Collator::Platform {
     tailored.reset(ucol_openRules(rules.data(), static_cast<std::int32_t>(rules.size()),
                                   UCOL_DEFAULT, UCOL_SECONDARY, nullptr, &error));
     if (U_FAILURE(error)) std::abort();  // ICU knows all of these rules
-    return tailored;
   }
 
   UColAttributeValue attribute(UColAttribute which) const {

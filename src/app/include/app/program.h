@@ -2,6 +2,8 @@
 // The program's modules, put together around one toolkit.
 #pragma once
 
+#include <utility>
+
 #include "common/collation/collation.h"
 #include "common/system/app.h"
 #include "common/toolkit/toolkit.h"
@@ -13,10 +15,11 @@ namespace termvik {
 
 class Program {
  public:
-  Program(Toolkit& toolkit, const Collation& collation, const App& app)
+  // Glossaries that are read ahead are those of the program's folder.
+  Program(Toolkit& toolkit, const Collation& collation, const App& app, LinesAhead ahead = {})
       : words_(
             collation, app.Path, [&toolkit](TextView prompt) { toolkit.MsgBox(prompt); },
-            *app.files),
+            *app.files, std::move(ahead)),
         settings_(toolkit, app),
         form_({toolkit, app, words_, settings_}) {}
 

@@ -14,6 +14,7 @@
 #include "common/system/large_vector.h"
 #include "common/system/text.h"
 #include "glossary/cls_w_entry.h"
+#include "glossary/lines_ahead.h"
 
 namespace termvik {
 
@@ -25,8 +26,10 @@ class defWords {
   static constexpr std::array<TextView, 2> kFileNames = {u"graphword.txt", u"toolsword.txt"};
 
   // The files lie in `folder`. `showMessage` shows a modal message and returns when it is closed.
+  // The first reading takes what has been read ahead.
   defWords(const Collation& collation, std::filesystem::path folder,
-           std::function<void(TextView)> showMessage, const Files& files = disk());
+           std::function<void(TextView)> showMessage, const Files& files = disk(),
+           LinesAhead ahead = {});
   ~defWords();
 
   // Loads both glossaries, the graphical one first.
@@ -59,7 +62,6 @@ class defWords {
 
   void readGlossary(TextView title, TextView fileName, Glossary& glossary, std::int32_t firstIndex,
                     std::int32_t& lastIndex, Text& version);
-  bool readGlossaryFile(const std::filesystem::path& fileName, LineTable& lines) const;
   void decodeGlossary(Glossary& glossary, std::int32_t firstIndex, std::int32_t& lastIndex);
   static std::int32_t countBlocks(const LineTable& lines);
 

@@ -3,7 +3,7 @@
 //
 // The members bear the field's names for them. Events are the `std::function` members. An event is
 // raised before the call or the user's act that causes it is over; an event with no handler does
-// nothing. There is one thread.
+// nothing. All of it is for the main thread.
 #pragma once
 
 #include <memory>
