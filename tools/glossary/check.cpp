@@ -150,7 +150,8 @@ bool check(const std::vector<std::string>& files, const CheckOptions& options,
   std::deque<CheckedFile> checked;
   for (const std::string& name : files) {
     try {
-      const FileBytes fileBytes = readBytes(name, streams);
+      Input input(name, streams);
+      const FileBytes fileBytes = readBytes(input);
       const std::string_view bytes = viewOf(fileBytes);
       Findings ofBytes;
       const bool isUtf16 = inspectBytes(bytes, ofBytes);

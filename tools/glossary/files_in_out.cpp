@@ -22,21 +22,6 @@ constexpr std::size_t kPiece = 1U << 16U;
 
 std::string reason() { return errno == 0 ? "" : std::string(": ") + std::strerror(errno); }
 
-// What `readPiece(room)` gives until it gives no more bytes; `size` of them are expected.
-template <class ReadPiece>
-FileBytes readAll(const std::string& name, std::size_t size, ReadPiece readPiece) {
-  FileBytes bytes(std::min(size, kMostBytes) + kPiece);
-  for (std::size_t used = 0;;) {
-    if (bytes.size() - used < kPiece) bytes.resize(used + std::max(used, kPiece));
-    const std::size_t count = readPiece(std::span(bytes).subspan(used));
-    used += count;
-    if (used > kMostBytes) throw Failure(name + ": error: the file is larger than 2 GB");
-    if (count > 0) continue;
-    bytes.resize(used);
-    return bytes;
-  }
-}
-
 // A name beside `target` that nothing has; the same folder lies on the same disk.
 fs::path scratchBeside(const fs::path& target) {
   return target.parent_path() / (".termvik-" + std::to_string(std::random_device{}()));
@@ -44,24 +29,39 @@ fs::path scratchBeside(const fs::path& target) {
 
 }  // namespace
 
-FileBytes readBytes(const std::string& name, Streams& streams) {
-  if (name == kStandardStream) {
-    return readAll(name, 0, [&](std::span<char> room) {
-      streams.in.read(room.data(), static_cast<std::streamsize>(room.size()));
-      return static_cast<std::size_t>(streams.in.gcount());
-    });
-  }
-  const fs::path path = pathOf(name);
+Input::Input(std::string name, Streams& streams) : name_(std::move(name)), streams_(streams) {
+  if (name_ == kStandardStream) return;
+  const fs::path path = pathOf(name_);
   std::error_code error;
   const std::uintmax_t size = fs::is_regular_file(path, error) ? fs::file_size(path, error) : 0;
+  if (!error) size_ = static_cast<std::size_t>(size);
   errno = 0;
-  const std::unique_ptr<File> file = disk().openToRead(path);
-  if (!file) throw Failure(name + ": error: cannot be read" + reason());
-  return readAll(name, error ? 0 : size, [&](std::span<char> room) {
-    const auto count = file->read(room);
-    if (!count) throw Failure(name + ": error: cannot be read" + reason());
-    return *count;
-  });
+  file_ = disk().openToRead(path);
+  if (!file_) throw Failure(name_ + ": error: cannot be read" + reason());
+}
+
+std::size_t Input::read(std::span<char> room) {
+  if (!file_) {
+    streams_.in.read(room.data(), static_cast<std::streamsize>(room.size()));
+    return static_cast<std::size_t>(streams_.in.gcount());
+  }
+  errno = 0;
+  const auto count = file_->read(room);
+  if (!count) throw Failure(name_ + ": error: cannot be read" + reason());
+  return *count;
+}
+
+FileBytes readBytes(Input& input) {
+  FileBytes bytes(std::min(input.size(), kMostBytes) + kPiece);
+  for (std::size_t used = 0;;) {
+    if (bytes.size() - used < kPiece) bytes.resize(used + std::max(used, kPiece));
+    const std::size_t count = input.read(std::span(bytes).subspan(used));
+    used += count;
+    if (used > kMostBytes) throw Failure(input.name() + ": error: the file is larger than 2 GB");
+    if (count > 0) continue;
+    bytes.resize(used);
+    return bytes;
+  }
 }
 
 Output::Output(std::string name, const std::vector<std::string>& inputs, bool force,

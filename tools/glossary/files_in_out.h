@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,8 +18,28 @@ namespace termvik::tool {
 // The name that stands for standard input and output.
 inline constexpr std::string_view kStandardStream = "-";
 
-// All bytes of a file, or of standard input. Throws Failure, with the reason.
-FileBytes readBytes(const std::string& name, Streams& streams);
+// A file, or standard input. What goes wrong throws Failure, with the reason.
+class Input {
+ public:
+  Input(std::string name, Streams& streams);
+
+  const std::string& name() const { return name_; }
+
+  // In bytes; 0 where it is not known.
+  std::size_t size() const { return size_; }
+
+  // Fills `room` with the next bytes and gives their number, which is 0 at the end.
+  std::size_t read(std::span<char> room);
+
+ private:
+  std::string name_;
+  Streams& streams_;
+  std::size_t size_ = 0;
+  std::unique_ptr<File> file_;  // empty for standard input
+};
+
+// All bytes that are left.
+FileBytes readBytes(Input& input);
 
 // Where the result goes. Until commit() nothing of it is there; then all of it.
 class Output {

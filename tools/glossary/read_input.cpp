@@ -14,12 +14,13 @@ std::optional<Text> readInput(std::uint16_t input, Format format, const ReadOpti
                               const Collation& collation, Streams& streams, WordList& list,
                               Messages& messages) {
   const std::string& name = messages.inputName(input);
-  FileBytes fileBytes = readBytes(name, streams);
-  const std::string_view bytes = viewOf(fileBytes);
+  Input file(name, streams);
   if (format == Format::Tbx) {  // XML says itself what its encoding is
-    readTbx(bytes, input, options.encoding, list, messages);
+    readTbx(file, input, options.encoding, list, messages);
     return std::nullopt;
   }
+  FileBytes fileBytes = readBytes(file);
+  const std::string_view bytes = viewOf(fileBytes);
   if (format == Format::Glossary && encodingOf(bytes, options.encoding) == Encoding::Windows1252) {
     return readGlossary(GlossaryLines::ofWindows1252(bytes, collation), input, collation, list,
                         messages);

@@ -3,9 +3,8 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <string_view>
 
+#include "files_in_out.h"
 #include "messages.h"
 #include "text_in.h"
 #include "text_out.h"
@@ -14,8 +13,8 @@
 namespace termvik::tool {
 
 // Adds the concepts of TBX 2, TBX 3 or TBX-Min as entries. Throws Failure for what is none of them.
-void readTbx(std::string_view bytes, std::uint16_t input, std::optional<Encoding> encoding,
-             WordList& list, Messages& messages);
+void readTbx(Input& file, std::uint16_t input, std::optional<Encoding> encoding, WordList& list,
+             Messages& messages);
 
 // Leaves out what XML cannot hold and tells it.
 void mendForTbx(WordList& list, Messages& messages);

@@ -53,8 +53,8 @@ char16_t wordTypeOf(std::string_view language) {
 
 class TbxHandler : public XmlHandler {
  public:
-  TbxHandler(std::uint16_t input, std::string_view bytes, WordList& list, Messages& messages)
-      : input_(input), size_(bytes.size()), lines_(bytes), list_(list), messages_(messages) {}
+  TbxHandler(std::uint16_t input, std::size_t size, WordList& list, Messages& messages)
+      : input_(input), size_(size), list_(list), messages_(messages) {}
 
   void begin(std::string_view element, const Attributes& attributes) override;
   void end() override;
@@ -84,13 +84,12 @@ class TbxHandler : public XmlHandler {
 
   Language& languageOf(std::string_view tag);
 
-  Place here() { return {lines_.lineOf(offset), input_}; }
+  Place here() const { return {place->line(), input_}; }
   void endCollecting();
   void endConcept();
 
   std::uint16_t input_;
   std::size_t size_;
-  LineCount lines_;
   WordList& list_;
   Messages& messages_;
   bool isTbx_ = false;
@@ -160,7 +159,7 @@ void TbxHandler::endCollecting() {
 
 void TbxHandler::endConcept() {
   conceptDepth_ = 0;
-  messages_.progress("reading", offset, size_);
+  messages_.progress("reading", place->offset(), size_);
   if (entry_.words.empty()) {
     messages_.tell(Severity::Note, entry_.place,
                    "the concept has no word in sv, en, de or fr and is passed over");
@@ -180,31 +179,15 @@ void TbxHandler::finish() {
   }
 }
 
-// The encoding that the first bytes of an XML file in UTF-16 tell, with a mark or without.
-std::optional<Encoding> utf16Of(std::string_view bytes) {
-  if (bytes.starts_with(std::string_view("<\0", 2))) return Encoding::Utf16Le;
-  if (bytes.starts_with(std::string_view("\0<", 2))) return Encoding::Utf16Be;
-  return byteOrderMark(bytes).encoding;
-}
-
-bool isUtf16(std::optional<Encoding> encoding) {
-  return encoding == Encoding::Utf16Le || encoding == Encoding::Utf16Be;
-}
-
 }  // namespace
 
-void readTbx(std::string_view bytes, std::uint16_t input, std::optional<Encoding> encoding,
-             WordList& list, Messages& messages) {
-  const std::string& name = messages.inputName(input);
-  std::string utf8;  // of a file in UTF-16, so that a line end is one byte in every file
-  if (const auto known = encoding ? encoding : utf16Of(bytes); isUtf16(known)) {
-    utf8 = toUtf8(viewOf(decodeText(bytes, known, name)));
-    bytes = utf8;
-    encoding = Encoding::Utf8;
+void readTbx(Input& file, std::uint16_t input, std::optional<Encoding> encoding, WordList& list,
+             Messages& messages) {
+  TbxHandler handler(input, file.size(), list, messages);
+  readXml(file, encoding, handler);
+  if (!handler.isTbx()) {
+    throw Failure(placeText(file.name(), 1) + "error: this XML is no TBX");
   }
-  TbxHandler handler(input, bytes, list, messages);
-  readXml(bytes, encoding, name, handler);
-  if (!handler.isTbx()) throw Failure(placeText(name, 1) + "error: this XML is no TBX");
   handler.finish();
 }
 

@@ -3,10 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <cstdint>
 #include <expat.h>
 #include <memory>
+#include <new>
+#include <span>
 #include <type_traits>
 
 #include "common/system/windows_1252.h"
@@ -16,8 +16,8 @@ namespace termvik::tool {
 
 namespace {
 
-// Bytes parsed at a time: the parser copies them, and what is that small stays in the cache.
-constexpr std::size_t kPiece = 1U << 16U;
+// Bytes parsed at a time: what is that small stays in the cache.
+constexpr int kPiece = 1 << 16;
 
 using Parser = std::unique_ptr<std::remove_pointer_t<XML_Parser>, decltype(&XML_ParserFree)>;
 
@@ -41,36 +41,45 @@ std::uint64_t lineOf(XML_Parser parser) {
 }
 
 // One run of the parser over a file.
-struct Reading {
-  XML_Parser parser;
-  XmlHandler& handler;
-
-  static Reading& of(void* data) { return *static_cast<Reading*>(data); }
-  static Reading& at(void* data) {
-    Reading& reading = of(data);
-    reading.handler.offset = static_cast<std::size_t>(XML_GetCurrentByteIndex(reading.parser));
-    return reading;
+class Reading : public XmlPlace {
+ public:
+  Reading(XML_Parser parser, XmlHandler& handler) : parser_(parser), handler_(handler) {
+    handler_.place = this;
   }
+  ~Reading() override { handler_.place = nullptr; }
+  Reading(const Reading&) = delete;
+  Reading& operator=(const Reading&) = delete;
+
+  std::uint32_t line() const override { return static_cast<std::uint32_t>(lineOf(parser_)); }
+  std::size_t offset() const override {
+    return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser_));
+  }
+
+  static XmlHandler& handlerOf(void* data) { return static_cast<Reading*>(data)->handler_; }
+
+ private:
+  XML_Parser parser_;
+  XmlHandler& handler_;
 };
 
 void XMLCALL onBegin(void* data, const XML_Char* name, const XML_Char** pairs) {
-  Reading::at(data).handler.begin(localName(name), XmlHandler::Attributes(pairs));
+  Reading::handlerOf(data).begin(localName(name), XmlHandler::Attributes(pairs));
 }
 
-void XMLCALL onEnd(void* data, const XML_Char*) { Reading::of(data).handler.end(); }
+void XMLCALL onEnd(void* data, const XML_Char*) { Reading::handlerOf(data).end(); }
 
 void XMLCALL onText(void* data, const XML_Char* text, int length) {
-  Reading::of(data).handler.text({text, static_cast<std::size_t>(length)});
+  Reading::handlerOf(data).text({text, static_cast<std::size_t>(length)});
 }
 
 void XMLCALL onSkippedEntity(void* data, const XML_Char* name, int isParameter) {
-  if (isParameter == 0) Reading::at(data).handler.leftOut(name);
+  if (isParameter == 0) Reading::handlerOf(data).leftOut(name);
 }
 
 // Called for an entity that lies in another file. It is not loaded and the reading goes on.
 int XMLCALL onExternalEntity(XML_Parser parser, const XML_Char* name, const XML_Char*,
                              const XML_Char*, const XML_Char*) {
-  Reading::at(XML_GetUserData(parser)).handler.leftOut(name == nullptr ? "" : name);
+  Reading::handlerOf(XML_GetUserData(parser)).leftOut(name == nullptr ? "" : name);
   return XML_STATUS_OK;
 }
 
@@ -92,6 +101,14 @@ const char* protocolName(std::optional<Encoding> encoding) {
   return kNames.at(static_cast<std::size_t>(*encoding));
 }
 
+// UTF-16, where the first bytes tell it: with a mark or without.
+std::optional<Encoding> utf16Of(std::string_view bytes) {
+  if (bytes.starts_with(std::string_view("<\0", 2))) return Encoding::Utf16Le;
+  if (bytes.starts_with(std::string_view("\0<", 2))) return Encoding::Utf16Be;
+  const auto marked = byteOrderMark(bytes).encoding;
+  return marked == Encoding::Utf8 ? std::nullopt : marked;
+}
+
 [[noreturn]] void fail(XML_Parser parser, const std::string& name) {
   const auto line = static_cast<std::size_t>(lineOf(parser));
   throw Failure(placeText(name, line) + "error: this is no XML that can be read: " +
@@ -107,11 +124,16 @@ std::string_view XmlHandler::Attributes::operator[](std::string_view name) const
   return {};
 }
 
-void readXml(std::string_view bytes, std::optional<Encoding> encoding, const std::string& name,
-             XmlHandler& handler) {
+void readXml(Input& file, std::optional<Encoding> encoding, XmlHandler& handler) {
+  std::array<char, 4> first{};  // bytes, enough to know UTF-16
+  std::size_t known = 0;
+  for (std::size_t count = 1; known < first.size() && count > 0; known += count) {
+    count = file.read(std::span(first).subspan(known));
+  }
+  if (!encoding) encoding = utf16Of({first.data(), known});
   const Parser parser(XML_ParserCreate(protocolName(encoding)), XML_ParserFree);
-  if (!parser) throw Failure(name + ": error: no memory is left");
-  Reading reading{parser.get(), handler};
+  if (!parser) throw std::bad_alloc();
+  Reading reading(parser.get(), handler);
   XML_SetUserData(parser.get(), &reading);
   XML_SetElementHandler(parser.get(), onBegin, onEnd);
   XML_SetCharacterDataHandler(parser.get(), onText);
@@ -119,15 +141,16 @@ void readXml(std::string_view bytes, std::optional<Encoding> encoding, const std
   XML_SetExternalEntityRefHandler(parser.get(), onExternalEntity);
   XML_SetUnknownEncodingHandler(parser.get(), onUnknownEncoding, nullptr);
   XML_SetParamEntityParsing(parser.get(), XML_PARAM_ENTITY_PARSING_NEVER);
-  do {
-    const std::string_view piece = bytes.substr(0, kPiece);
-    bytes.remove_prefix(piece.size());
-    const int isLast = bytes.empty() ? XML_TRUE : XML_FALSE;
-    if (XML_Parse(parser.get(), piece.data(), static_cast<int>(piece.size()), isLast) !=
-        XML_STATUS_OK) {
-      fail(parser.get(), name);
-    }
-  } while (!bytes.empty());
+  const auto check = [&](XML_Status status) {
+    if (status != XML_STATUS_OK) fail(parser.get(), file.name());
+  };
+  check(XML_Parse(parser.get(), first.data(), static_cast<int>(known), XML_FALSE));
+  for (int count = 1; count > 0;) {
+    void* const room = XML_GetBuffer(parser.get(), kPiece);
+    if (room == nullptr) throw std::bad_alloc();
+    count = static_cast<int>(file.read({static_cast<char*>(room), kPiece}));
+    check(XML_ParseBuffer(parser.get(), count, count == 0 ? XML_TRUE : XML_FALSE));
+  }
 }
 
 }  // namespace termvik::tool

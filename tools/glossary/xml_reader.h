@@ -2,14 +2,23 @@
 // An XML file, told element by element. No external entity and no DTD is ever loaded.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 
+#include "files_in_out.h"
 #include "text_in.h"
 
 namespace termvik::tool {
+
+// Where in the file the element begins that is being told.
+class XmlPlace {
+ public:
+  virtual ~XmlPlace() = default;
+  virtual std::uint32_t line() const = 0;
+  virtual std::size_t offset() const = 0;
+};
 
 // What is told of an XML file. Names are without their prefix, texts in UTF-8.
 class XmlHandler {
@@ -32,12 +41,11 @@ class XmlHandler {
   virtual void text(std::string_view utf8) = 0;
   virtual void leftOut(std::string_view entity) = 0;  // its text is not to be had
 
-  std::size_t offset = 0;  // in the file, of what is told
+  const XmlPlace* place = nullptr;  // while anything is told
 };
 
-// Reads a whole file. `encoding` overrules what the file says of itself. `name` is the file's for
-// the Failure that is thrown when it is no XML.
-void readXml(std::string_view bytes, std::optional<Encoding> encoding, const std::string& name,
-             XmlHandler& handler);
+// Reads a whole file. `encoding` overrules what the file says of itself. Throws Failure when it is
+// no XML.
+void readXml(Input& file, std::optional<Encoding> encoding, XmlHandler& handler);
 
 }  // namespace termvik::tool
