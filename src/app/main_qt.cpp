@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
   termvik::QtToolkit toolkit(collation);
   termvik::Program program(toolkit, collation, app, std::move(ahead));
   application.outOfMemory = [&] { program.form().runOutOfMemory(); };
-  program.start();
   endRequests.follow();
+  program.start();
   return QApplication::exec();
 }

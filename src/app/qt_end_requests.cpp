@@ -6,7 +6,7 @@
 #include <sys/signalfd.h>
 #include <unistd.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 
 namespace termvik {
 
@@ -23,13 +23,15 @@ QtEndRequests::~QtEndRequests() {
   if (descriptor_ >= 0) close(descriptor_);
 }
 
-// Quitting closes the windows, a modal one first, and the main window saves what it remembers.
+// Closes the windows, a modal one first, and the main window saves what it remembers. The request
+// stays unread, so that this goes on until the program can quit: the start's messages come before
+// its loop, one after the other.
 void QtEndRequests::follow() {
   if (descriptor_ < 0) return;
   notifier_ = std::make_unique<QSocketNotifier>(descriptor_, QSocketNotifier::Read);
-  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
-    signalfd_siginfo request{};
-    if (read(descriptor_, &request, sizeof request) > 0) QCoreApplication::quit();
+  QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [] {
+    QApplication::closeAllWindows();
+    QCoreApplication::quit();
   });
 }
 

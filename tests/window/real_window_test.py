@@ -217,6 +217,16 @@ class RealWindowTest(RealWindow):
             self.assertIn(b"GLOSSARYINDEX 2", (FOLDER / "Termvik.par").read_bytes())
             self.start()
 
+    def test_asked_to_end_while_it_starts(self):
+        self.close()
+        for name in "graphword.txt", "toolsword.txt":
+            (FOLDER / name).unlink()
+        self.program = subprocess.Popen([FOLDER / PROGRAM.name])
+        self.addCleanup(self.program.kill)
+        wait_for(lambda: run("xdotool", "getactivewindow", "getwindowname"), "Termvik\n")
+        self.program.send_signal(signal.SIGTERM)  # while the first of two messages is shown
+        self.assertEqual(self.program.wait(15), 0)
+
     def is_maximised(self):
         state = run("xprop", "-id", self.window, "_NET_WM_STATE")
         return "MAXIMIZED_VERT" in state and "MAXIMIZED_HORZ" in state
