@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -72,6 +73,14 @@ class EntryReader {
   Findings lost_;
 };
 
+std::size_t countSeparators(const LineTable& table) {
+  std::size_t count = 0;
+  for (std::int32_t line = 1; line <= table.upperBound(); ++line) {
+    count += table.kind(line) == LineKind::Separator ? 1 : 0;
+  }
+  return count;
+}
+
 }  // namespace
 
 std::optional<Text> readGlossary(GlossaryLines glossaryLines, std::uint16_t input,
@@ -79,6 +88,10 @@ std::optional<Text> readGlossary(GlossaryLines glossaryLines, std::uint16_t inpu
   const auto lines = std::make_shared<const GlossaryLines>(std::move(glossaryLines));
   list.keepOwner(lines);
   const LineTable& table = lines->table();
+  if (list.entries.empty()) {
+    constexpr std::size_t kShort = 32;  // characters of an entry; few are that short
+    list.entries.reserve(std::min(countSeparators(table), table.characters().size() / kShort));
+  }
   EntryReader reader(*lines, input, collation, list);
   for (LineRange block{1, 1}; findBlock(table, block); block.first = block.last + 1) {
     reader.read(block);

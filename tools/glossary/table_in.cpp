@@ -133,6 +133,11 @@ void readTable(TextView text, std::uint16_t input, const ReadOptions& options, c
                const Collation& collation, WordList& list, Messages& messages) {
   CellReader cells(text, delimiter, messages.inputName(input));
   TableReader reader(input, collation, list, messages);
+  if (list.entries.empty()) {
+    constexpr std::size_t kShort = 32;  // characters of a row; few are that short
+    const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), u'\n'));
+    list.entries.reserve(std::min(lines, text.size() / kShort));
+  }
   Row row;
   if (!options.columns.empty()) {
     reader.useColumns(options.columns);
