@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// A start whose glossaries are read ahead, while the window system gets ready, is as any other.
+// What is done ahead on threads is as if it were done when it is asked for: the reading of the
+// glossaries while the window system gets ready, the folding of many texts for full search.
+#include "glossary/full_search.h"
 #include "support/desk.h"
 
 namespace termvik::test {
@@ -66,6 +68,37 @@ TEST_F(ReadAhead, TellsOnceThatMemoryHasRunOut) {
     EXPECT_EQ(rows(), "a/1 b/2 ") << failing;
     program.reset();
   }
+}
+
+// The bytes of enough texts for a thread of their own, each with `word`.
+static std::string manyTexts(TextView word) {
+  std::string bytes;
+  for (int i = 0; i < 80'000; ++i) {
+    bytes += "S: " + encodeAnsi(word) + " " + std::to_string(i) + "\r\nC: more\r\n---\r\n";
+  }
+  return bytes;
+}
+
+TEST(FoldedAhead, IsWhatASearchFindsAndGoesWithItsGlossary) {
+  Store store("", "");
+  const auto read = [&store](TextView word) {
+    store.folder.writeBytes("graphword.txt", manyTexts(word));
+    store.words.clearGlossaries();
+    store.words.readGlossaries();
+  };
+  const auto hits = [&store](TextView term) {
+    std::size_t count = 0;
+    visitHits(store.words, 1, store.words.gGraphLast, {term},
+              [&count](TextView, std::int32_t) { ++count; });
+    return count;
+  };
+  read(u"Straße");
+  EXPECT_EQ(hits(u"strasse 3999"), 11U);
+  for (const TextView word : {u"Weg", u"Gaße", u"Pfad"}) read(word);  // while others are folded
+  EXPECT_EQ(hits(u"gasse"), 0U);
+  EXPECT_EQ(hits(u"pfad 1"), 11'111U);
+  store.words.emptyGlossaries();
+  EXPECT_EQ(hits(u"pfad"), 0U);
 }
 
 }  // namespace termvik::test

@@ -98,6 +98,7 @@ void defWords::decodeGlossary(Glossary& glossary, std::int32_t firstIndex,
     ++lastIndex;
     gEntries(lastIndex) = entry;
   }
+  glossary.texts.endAdding();
 }
 
 }  // namespace termvik

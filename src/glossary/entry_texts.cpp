@@ -4,9 +4,9 @@
 namespace termvik {
 
 void EntryTexts::clear() {
+  folded_ = {};  // before what it is made of
   ranges_ = LargeVector<TextRange>();
   types_ = LargeVector<char16_t>();
-  folded_.reset();
 }
 
 void EntryTexts::reserve(std::size_t texts) {
@@ -25,9 +25,23 @@ void EntryTexts::addWord(TextView word, char16_t wordType) {
   types_.push_back(wordType);
 }
 
+// The texts of a usual glossary take less than to begin a thread, and the memory for letters can
+// wait for a search.
+void EntryTexts::endAdding() {
+  constexpr std::size_t kMany = 1U << 21U;  // characters
+  if (lines_->characters().size() >= kMany) {
+    folded_ = fold(std::launch::async | std::launch::deferred);
+  }
+}
+
 const FoldedTexts& EntryTexts::folded() const {
-  if (!folded_) folded_.emplace(*collation_, lines_->characters(), ranges_);
-  return *folded_;
+  if (!folded_.valid()) folded_ = fold(std::launch::deferred);
+  return folded_.get();
+}
+
+std::shared_future<FoldedTexts> EntryTexts::fold(std::launch policy) const {
+  return std::async(policy,
+                    [this] { return FoldedTexts(*collation_, lines_->characters(), ranges_); });
 }
 
 }  // namespace termvik

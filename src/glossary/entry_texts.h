@@ -4,7 +4,7 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
+#include <future>
 
 #include "common/collation/folded_texts.h"
 #include "common/system/text.h"
@@ -33,15 +33,20 @@ class EntryTexts {
   }
   TextView type(std::size_t index) const { return {&types_[index], 1}; }  // of a word
 
-  // The texts as full search wants them; made when they are first asked for.
+  // All texts are there. Where they are many, a thread begins to fold them.
+  void endAdding();
+
+  // The texts as full search wants them; made when they are first asked for, if not yet.
   const FoldedTexts& folded() const;
 
  private:
+  std::shared_future<FoldedTexts> fold(std::launch policy) const;
+
   const Collation* collation_;
   const LineTable* lines_;
   LargeVector<TextRange> ranges_;
   LargeVector<char16_t> types_;
-  mutable std::optional<FoldedTexts> folded_;
+  mutable std::shared_future<FoldedTexts> folded_;  // to let it go waits for its thread
 };
 
 }  // namespace termvik
