@@ -3,6 +3,7 @@
 // no notifications.
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "win32_main_window.h"
 
@@ -42,6 +43,39 @@ TEST_F(Win32Speech, TheNewestOfManyUtterancesIsSaidAndTheSameOneAgain) {
   window->say(u"färg");
   EXPECT_EQ(rest(), "färg ");
   EXPECT_EQ(focused(), "txtSearch");
+}
+
+// Else it would say a row of hyphens before the word's name is heard.
+TEST_F(Win32Speech, ARowIsReadByItsNameAndPaintedAsItIs) {
+  for (const TextView row : {u"----", u"sax"}) list.AddItem(row, 1);
+  HWND view = handleOf(u"lstWords");
+  const auto painted = [&] {
+    InvalidateRect(view, nullptr, TRUE);
+    hands->settle();
+    std::vector<COLORREF> pixels;
+    HDC context = GetDC(view);
+    for (int y = 0; y < 20; ++y) {
+      for (int x = 0; x < 60; ++x) pixels.push_back(GetPixel(context, x, y));
+    }
+    ReleaseDC(view, context);
+    return pixels;
+  };
+  const std::vector<COLORREF> before = painted();
+  list.RowName = [](TextView row) { return row == u"----" ? Text(u"named") : Text(row); };
+  SystemParametersInfoW(SPI_SETSCREENREADER, TRUE, nullptr, 0);
+  EXPECT_EQ(painted(), before);
+  const auto read = [view](int row) {
+    std::wstring text(100, L'\0');
+    LVITEMW asked{};
+    asked.pszText = text.data();
+    asked.cchTextMax = 100;
+    SendMessageW(view, LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&asked));
+    return toUtf8(fromWide(asked.pszText));
+  };
+  EXPECT_EQ(read(0) + " " + read(1), "named sax");
+  SystemParametersInfoW(SPI_SETSCREENREADER, FALSE, nullptr, 0);
+  EXPECT_EQ(read(0), "----");
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "win32_list_box.h"
 
+#include <utility>
+
 #include "toolkit/shared/shown_limits.h"
 #include "win32_text.h"
 
@@ -15,6 +17,14 @@ constexpr DWORD kStyle =
 // A row that is wider than the list unfolds as a tip under the mouse.
 constexpr DWORD kExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
 constexpr UINT kSelected = LVIS_SELECTED | LVIS_FOCUSED;
+
+// Whether a screen reader has told the system that it is there. Others than readers look at windows
+// by automation too, and want the texts as they are.
+bool aReaderReads() {
+  BOOL reads = FALSE;
+  SystemParametersInfoW(SPI_GETSCREENREADER, 0, &reads, 0);
+  return reads != FALSE;
+}
 
 }  // namespace
 
@@ -41,7 +51,9 @@ LRESULT Win32ListBox::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     keepSelection();
     return 0;
   }
+  const bool paintedBefore = std::exchange(painting_, message == WM_PAINT);
   const LRESULT result = passOn(message, wParam, lParam);
+  painting_ = paintedBefore;
   if (message == WM_SIZE) fitColumn();
   return result;
 }
@@ -126,12 +138,18 @@ LRESULT Win32ListBox::colourRow(NMLVCUSTOMDRAW& drawn) const {
   return CDRF_DODEFAULT;
 }
 
+// What is painted, or to a reader what the row is called.
+Text Win32ListBox::textOf(std::int32_t row) const {
+  if (row < 0 || row >= rows().count()) return {};
+  if (!painting_ && aReaderReads()) return rowName(row);
+  return Text(rows().text(row).substr(0, kMostShownOfRow));
+}
+
 void Win32ListBox::giveText(LVITEMW& item) {
   if ((item.mask & LVIF_TEXT) == 0) return;
   std::wstring& given = given_[nextGiven_];
   nextGiven_ = (nextGiven_ + 1) % given_.size();
-  const bool isThere = item.iItem >= 0 && item.iItem < rows().count();
-  given = isThere ? shownText(rows().text(item.iItem).substr(0, kMostShownOfRow)) : std::wstring();
+  given = shownText(textOf(item.iItem));
   item.pszText = given.data();
 }
 

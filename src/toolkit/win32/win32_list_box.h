@@ -31,11 +31,13 @@ class Win32ListBox : public Win32Control<ListBox> {
   void fitColumn() const;
   void selectionChanges(const NMLISTVIEW& change);
   LRESULT colourRow(NMLVCUSTOMDRAW& drawn) const;
+  Text textOf(std::int32_t row) const;
   void giveText(LVITEMW& item);
   LRESULT findRow(const NMLVFINDITEMW& wanted) const;
 
   bool stale_ = false;      // the view has not yet heard of the last change of the rows
   bool selecting_ = false;  // the program moves the selection, not the user
+  bool painting_ = false;
 
   // What the view was given last: it reads a text until it has asked for two more.
   std::array<std::wstring, 3> given_;
