@@ -28,7 +28,7 @@ void EntryTexts::addWord(TextView word, char16_t wordType) {
 // The texts of a usual glossary take less than to begin a thread, and the memory for letters can
 // wait for a search.
 void EntryTexts::endAdding() {
-  constexpr std::size_t kMany = 1U << 21U;  // characters
+  constexpr std::size_t kMany = 1U << 23U;  // characters, which take some milliseconds
   if (lines_->characters().size() >= kMany) {
     folded_ = fold(std::launch::async | std::launch::deferred);
   }
