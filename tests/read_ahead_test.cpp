@@ -72,9 +72,11 @@ TEST_F(ReadAhead, TellsOnceThatMemoryHasRunOut) {
 
 // The bytes of enough texts for a thread of their own, each with `word`.
 static std::string manyTexts(TextView word) {
+  const std::string comment(100, 'm');
   std::string bytes;
   for (int i = 0; i < 80'000; ++i) {
-    bytes += "S: " + encodeAnsi(word) + " " + std::to_string(i) + "\r\nC: more\r\n---\r\n";
+    bytes +=
+        "S: " + encodeAnsi(word) + " " + std::to_string(i) + "\r\nC: " + comment + "\r\n---\r\n";
   }
   return bytes;
 }
