@@ -10,8 +10,8 @@ import time
 import unittest
 import unittest.mock
 
-from desktop import DOUBLET, FOLDER, PROGRAM, RealWindow, attempt, place, run, wait_for, walk
-from gi.repository import Atspi, GLib
+from desktop import DOUBLET, FOLDER, PROGRAM, RealWindow, place, run, wait_for, walk
+from gi.repository import Atspi
 
 WINDOW_MANAGER = int(os.environ["WINDOW_MANAGER"])  # its process
 RULE = "=" * 39
@@ -21,12 +21,6 @@ NAMES = """Search;Words;Article;Graphical glossary;Tools glossary;Both;termvik.t
 Specify look up in list or full search;Look up word in list;Search words in whole glossary
 Markera dubletter!;English;Svenska;Deutsch;Francais;About;Läs in ordlistefilerna igen
 Visa ordlisteversioner;Skapa ordlistefil;Skapa lista över dubbletter"""
-
-
-def iterate():
-    """Lets the listeners hear what has come."""
-    while GLib.MainContext.default().iteration(False):
-        pass
 
 
 def layout(width, height):
@@ -79,54 +73,6 @@ class RealWindowTest(RealWindow):
         self.assertIn("Version: ", self.text("Authors and version"))
         run("xdotool", "key", "Escape")
         wait_for(lambda: "OK" in [node.get_name() for node in self.nodes()], False)
-
-    def listen(self):
-        """What the reader is told from now on: what is said, and what it follows."""
-        told = []
-
-        def note(event):
-            is_said = event.source.get_role() == Atspi.Role.NOTIFICATION
-            in_status_bar = is_said and event.source.get_parent().get_role() == Atspi.Role.STATUS_BAR
-            if event.detail1 and ("focused" in event.type or in_status_bar):
-                told.append(event.source.get_name())
-
-        # The program may have closed before its last events are read.
-        listener = Atspi.EventListener.new(lambda event: attempt(lambda: note(event)))
-        for event in ("showing", "focused"):
-            listener.register("object:state-changed:" + event)
-            self.addCleanup(listener.deregister, "object:state-changed:" + event)
-        return told
-
-    def test_screen_reader_is_told_rows_articles_and_numbers(self):
-        told = self.listen()
-
-        def expect(*words):
-            wait_for(lambda: (iterate(), told)[1], list(words))
-            told.clear()
-
-        glue, size = "S: lim, E: glue, Sticks paper, and board.", "S: lim, E: size, D: Leim"
-        self.click("Both")
-        expect("Both", "5 words")
-        self.click("Search")
-        expect("Search")
-        run("xdotool", "type", "--delay", 5, "lim")
-        expect(f"{DOUBLET}. {glue}")
-        run("xdotool", "key", "Down")
-        expect(f"{DOUBLET}. {size}")
-        run("xdotool", "key", "Tab")
-        expect("Words", DOUBLET)
-        run("xdotool", "key", "Up")
-        expect(DOUBLET, glue)
-        self.click("Markera dubletter!")
-        expect("Markera dubletter!", "5 words")
-        self.click("Search words in whole glossary")
-        expect("Search words in whole glossary", "2 hits")
-        self.assertEqual(self.control("Both").get_description(), "Glossary")
-        run("xdotool", "key", "F10", *["Right"] * 7)
-        wait_for(lambda: (iterate(), told[-1:])[1], ["Skapa ordlistefil"])
-        off = self.control("Skapa ordlistefil").get_state_set()
-        self.assertFalse(off.contains(Atspi.StateType.ENABLED))
-        run("xdotool", "key", "Escape")
 
     def test_alt_and_f10_give_the_keyboard_back(self):
         self.choose_both()
